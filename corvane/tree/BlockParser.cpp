@@ -1,0 +1,68 @@
+#include "corvane/tree/BlockParser.h"
+
+#include <utility>
+
+#include "corvane/scan/Assert.h"
+
+namespace Ondo {
+
+BlockParser::BlockParser(std::u16string_view text_, Lines& lines_, const BlockRuleMap& blockRules,
+                         const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules)
+    : ParserBase(text_, lines_), blockRules_(blockRules),
+      inlineParser_(text_, lines_, inlineRules, attributeRules) {
+    const bool endsInEmptyEntry = lines[lines.size() - 1].isEmptyEntry();
+    root_ = std::make_unique<DocumentNode>(0, static_cast<std::int64_t>(text.size()),
+                                           lines.size() - (endsInEmptyEntry ? 1 : 0));
+}
+
+std::unique_ptr<Node> BlockParser::parseDocument() {
+    parseBlock(0, lines.size() - 1, root_.get());
+    return std::move(root_);
+}
+
+std::int64_t BlockParser::parseBlock(std::int64_t first, std::int64_t last, Node* parent) {
+    frames_.push_back({parent, nullptr, nullptr});
+    std::int64_t line = first;
+    while (line <= last && !lines[line].isEmptyEntry() && !lines[line].lazy)
+        line += parseLine(line, last, parent);
+    frames_.pop_back();
+    return line - first;
+}
+
+std::int64_t BlockParser::parseLine(std::int64_t line, std::int64_t last, Node* parent) {
+    const auto at = static_cast<std::size_t>(lines[line].contentStart);
+    const char16_t opening = at < text.size() ? text[at] : u'\0';
+    std::int64_t linesParsed = 0;
+    for (const auto& rule : blockRules_.getBlockRules(opening)) {
+        linesParsed = rule->match(*this, line, last, parent, BlockRule::ParseAction::Parse);
+        if (linesParsed != 0) break;
+    }
+    CORVANE_ASSERT(linesParsed != 0, "BlockParser");
+    return linesParsed;
+}
+
+Node* BlockParser::lastBlock(const Node* parent) const {
+    return !frames_.empty() && frames_.back().parent == parent ? frames_.back().lastBlock : nullptr;
+}
+
+void BlockParser::openBlock(Node* node) {
+    frames_.back().lastBlock = node;
+}
+
+std::unique_ptr<Node> BlockParser::takeLastBlock(const Node* parent) {
+    CORVANE_ASSERT(lastBlock(parent), "BlockParser");
+    Frame& frame = frames_.back();
+    frame.passed = frame.lastBlock->previousSibling;
+    return std::exchange(frame.lastBlock, nullptr)->unlinkSubtree();
+}
+
+Node* BlockParser::mergeNode(Node* parent, std::unique_ptr<Node> node) {
+    Frame& frame = frames_.back();
+    if (frame.parent != parent) return ParserBase::mergeNode(parent, std::move(node));
+    Node* const merged = ParserBase::mergeNode(parent, std::move(node), frame.passed);
+    frame.lastBlock = merged;
+    if (merged && merged->parent == parent) frame.passed = merged;
+    return merged;
+}
+
+} // namespace Ondo

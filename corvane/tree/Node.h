@@ -1,0 +1,273 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "corvane/scan/Export.h"
+#include "corvane/tree/NodeType.h"
+
+namespace Ondo {
+
+/// Which of several nodes that touch an offset is wanted.
+enum class LevelSetting { Highest, Leaf, FirstLevel };
+
+/// The writing direction of a block; the inherited ones come from the text before it.
+enum class Direction : std::uint32_t {
+    None,
+    LeftToRight,
+    RightToLeft,
+    InheritedLeftToRight,
+    InheritedRightToLeft
+};
+
+/// A node of the tree that tiles the document: every code unit belongs to exactly one leaf.
+///
+/// A node stores how long it is, in UTF-16 code units and in lines, never where it stands: positions are
+/// sums over what lies before, so that an edit touches only the nodes around it. Walks that need positions
+/// use Node::Iterator, which carries them along.
+///
+/// A node owns its children. All pointers to nodes, and all cursors, go stale with the next edit, but for
+/// the first-level blocks that the edit left alone.
+class CORVANE_EXPORT Node {
+public:
+    /// In an order that is relied on: blocks up to InlineBlock, leaves of the tree from Marker on.
+    enum class Category : std::uint32_t {
+        Document,
+        ContainerBlock, ///< holds blocks
+        LeafBlock,      ///< has no inline parsing of its own
+        InlineBlock,    ///< its content is parsed for inlines
+        Inline,
+        Attribute, ///< a run of text that carries a value of its construct
+        Marker,    ///< syntax characters
+        Space,
+        LineEnding,
+        Text
+    };
+
+    class Iterator;
+
+    /// Nodes alive in the process, for finding leaks. Not atomic: trees that are built at the same time on
+    /// different threads miscount.
+    static std::int64_t instanceCount;
+
+    std::uint16_t type;
+    const char16_t* name; ///< static, shared by all nodes of a type
+    Category category;
+    /// Absolute offset at the time of the parse. Means something only during that parse and among nodes of
+    /// it.
+    std::int64_t offsetWhenParsed;
+    std::int64_t charCount;
+    std::int64_t lineWhenParsed; ///< as stale as offsetWhenParsed
+    std::int64_t lineCount;      ///< line endings in the text of the node; a block of n lines has n
+    Node* parent = nullptr;
+    Node* firstChild = nullptr;
+    Node* lastChild = nullptr;
+    Node* previousSibling = nullptr;
+    Node* nextSibling = nullptr;
+    Node* maker; ///< of a marker or attribute: its construct, which need not be the parent. Not owned.
+    Direction direction = Direction::None;
+    bool folded = false;
+    bool startsIndexRun = false; ///< bookkeeping of FirstLevelIndex
+
+    /// Asserts that offset, length, line and line count are not negative.
+    Node(std::uint16_t type, const char16_t* name, Category category, std::int64_t offset, std::int64_t end,
+         std::int64_t line, std::int64_t lineCount, Node* maker);
+    /// With the name and category that the table of types gives.
+    Node(NodeType type, std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t lineCount,
+         Node* maker = nullptr);
+    /// Deletes the subtree, without recursion.
+    virtual ~Node();
+    Node(const Node&) = delete;
+    Node& operator=(const Node&) = delete;
+
+    /// The node's line of the indented tree: its name, and what the class adds.
+    virtual std::u16string toIndentedTree() const;
+    /// Appends the node's HTML. `markdown` is the whole text, `offset` where this node starts in it.
+    virtual void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const = 0;
+    void childrenToHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const;
+
+    /// Appends what the node contributes to the value of an attribute that holds it; nothing by default.
+    virtual void appendValue(std::u16string& out, std::u16string_view markdown) const;
+
+    /// Whether a node of the same class has the same values of its own; true for a class without any.
+    virtual bool hasEqualData(const Node& other) const;
+
+    bool isBlock() const { return category <= Category::InlineBlock; }
+    bool isMarker() const { return category == Category::Marker; }
+    /// A leaf by its kind: syntax characters, blanks, line endings and text never have children.
+    bool isLeafKind() const { return category >= Category::Marker; }
+    std::int64_t endWhenParsed() const { return offsetWhenParsed + charCount; }
+
+    // Position, computed. These walk over the siblings before the node and its ancestors: for single
+    // questions, not for loops.
+
+    std::int64_t startOffset() const;
+    std::int64_t endOffset() const { return startOffset() + charCount; }
+    std::int64_t startLine() const;
+    /// The number of ancestors.
+    std::int64_t treeLevel() const;
+    /// The node's text in `markdown`, the whole document. A start beyond it is the standard library's
+    /// out-of-range failure; the length is clamped.
+    std::u16string_view expensiveSubstring(std::u16string_view markdown) const;
+
+    // Navigation. A null pointer means that there is no such node.
+
+    /// The node at an offset counted from this node's start. Inside a child all settings reach a leaf; on an
+    /// edge Highest stays, FirstLevel stays below the document, and Leaf goes on into the child that starts
+    /// there, or into the last one. Asserts that the offset lies within the node.
+    Node* nodeAtRelativeOffset(std::int64_t offset, LevelSetting level);
+
+    /// The nearest (Leaf) or highest (Highest) ancestor that satisfies; FirstLevel is Highest, but stops at
+    /// a satisfying node directly below the document. Never the node itself.
+    template <class P>
+    Node* ancestorWhere(P predicate, LevelSetting level) const {
+        Node* found = nullptr;
+        for (Node* node = parent; node; node = node->parent) {
+            if (!predicate(node)) continue;
+            found = node;
+            if (level == LevelSetting::Leaf) break;
+            if (level == LevelSetting::FirstLevel &&
+                (!node->parent || node->parent->type == ONDO_DOCUMENT_NODE))
+                break;
+        }
+        return found;
+    }
+    template <class P>
+    bool hasAncestorWhere(P predicate) const {
+        return ancestorWhere(predicate, LevelSetting::Leaf) != nullptr;
+    }
+    bool hasAncestorOfType(std::uint16_t wanted) const;
+    template <class P>
+    Node* childWhere(P predicate) const {
+        Node* child = firstChild;
+        while (child && !predicate(child))
+            child = child->nextSibling;
+        return child;
+    }
+    template <class P>
+    bool hasChildWhere(P predicate) const {
+        return childWhere(predicate) != nullptr;
+    }
+    /// Depth first, in document order, without the node itself.
+    template <class P>
+    Node* descendantWhere(P predicate) const {
+        const Node* end = nextInSequenceSkippingSubtree();
+        for (Node* node = nextInSequence(); node && node != end; node = node->nextInSequence())
+            if (predicate(node)) return node;
+        return nullptr;
+    }
+    template <class P>
+    bool hasDescendantWhere(P predicate) const {
+        return descendantWhere(predicate) != nullptr;
+    }
+
+    /// The node itself when it has no children.
+    Node* lastNodeOfSubtree();
+    /// The next node in document order.
+    Node* nextInSequence() const;
+    Node* nextInSequenceSkippingSubtree() const;
+    Node* previousInSequence() const;
+    /// The nearest ancestor that is a block.
+    Node* parentBlock() const;
+    /// The ancestor, or the node itself, that stands directly below the root.
+    Node* firstLevelAncestor();
+    /// The first marker, in this node and its subtree, whose maker is this node.
+    Node* firstMarker();
+    /// For a marker: the following marker of the same maker.
+    Node* nextMarker() const;
+    /// The first direct child that is an attribute, and the next sibling that is one.
+    Node* firstAttribute() const;
+    Node* nextAttribute() const;
+    /// The first node on the node's line.
+    Node* beginningOfLine();
+    /// The line ending of the node's line; at the end of the document the last node.
+    Node* endOfLine();
+
+    Iterator begin();
+    /// At the node behind the subtree; at the end of the document an iterator without a node.
+    Iterator end();
+
+    // Structure. No counts change: the callers see to the lengths.
+
+    /// Inserts `node` before `nextSibling`, or as the last child. Asserts that it has no parent, and that
+    /// `nextSibling` is a child of this node. Returns it.
+    Node* linkSubtree(std::unique_ptr<Node> node, Node* nextSibling = nullptr);
+    template <class T>
+    T* link(std::unique_ptr<T> node, Node* before = nullptr) {
+        return static_cast<T*>(linkSubtree(std::move(node), before));
+    }
+    /// Asserts that there is a parent.
+    std::unique_ptr<Node> unlinkSubtree();
+    /// Hands the whole child list to the childless `node`. Asserts both `node` and a first child.
+    void moveAllChildrenTo(Node* node);
+
+    /// Lays a node over what is there, by offsetWhenParsed: nodes of the same parse that lie inside its range
+    /// move into it, or are dropped where it already has a node of its own. Returns the node, or null when it
+    /// crosses an existing one: then the tree is as before and the node is gone.
+    ///
+    /// `passed` saves the search: a child of this node that ends at or before the new range.
+    Node* mergeSubtreeOnParsedOffsets(std::unique_ptr<Node> subtree, Node* passed = nullptr);
+
+private:
+    void unhook();
+};
+
+/// A position in the tree that carries offset, line and level along, so that a step costs an addition.
+///
+/// A plain value, stale after the next edit. It moves in place; an operation that finds no node leaves
+/// `node` null.
+class CORVANE_EXPORT Node::Iterator {
+public:
+    std::int64_t offset = 0; ///< absolute start of the node
+    std::int64_t line = 0;   ///< its start line
+    std::int64_t level = 0;  ///< its depth, 0 for the root
+    Node* node = nullptr;
+
+    Iterator() = default;
+    /// Computes the position by walking to the root.
+    explicit Iterator(Node* at);
+
+    Node* get() const { return node; }
+    Node& operator*() const { return *node; }
+    Node* operator->() const { return node; }
+    bool isEqual(const Iterator& other) const { return node == other.node; }
+    std::int64_t end() const { return offset + (node ? node->charCount : 0); }
+
+    Iterator& operator++();
+    Iterator operator++(int);
+    void nextInSequence(bool blocksOnly = false);
+    /// At the end of the tree `node` becomes null; offset and line stand at the end of the last node.
+    void nextInSequenceSkippingSubtree();
+    void previousInSequence();
+    void parent();
+    void firstChild();
+    void lastChild();
+    void previousSibling();
+    void nextSibling();
+    void lastNodeOfSubtree();
+    /// Climbs to the maker; no move when there is none.
+    void maker();
+    void beginningOfLine();
+    void endOfLine();
+    /// Forward to `offset + deltaOffset`. Asserts `deltaOffset >= 0`.
+    void nextByOffset(std::int64_t deltaOffset, LevelSetting level);
+
+    Iterator properClone() const { return *this; }
+    bool isBeforeOrEqual(const Iterator& other) const;
+    /// The other's start lies in this node, both edges included, and not on a higher level.
+    bool isContaining(const Iterator& other) const;
+
+private:
+    void enter(Node* child);
+    void leaf();
+    void nullify();
+};
+
+/// The name of a type's nodes, static and NUL-terminated; compared by address.
+CORVANE_EXPORT const char16_t* nodeName(std::uint16_t type);
+CORVANE_EXPORT Node::Category nodeCategory(std::uint16_t type);
+
+} // namespace Ondo
