@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "corvane/tree/Tree.h"
+
+namespace Ondo::Test {
+
+/// Walks the whole tree and returns the first broken invariant in words; empty when all hold: children tile
+/// their parent, lengths and line counts add up, categories nest, links are mutual, the computed positions
+/// agree with each other.
+std::string checkTree(const Tree& tree);
+
+/// Compares a tree with a fresh parse of the same text, in all but the two fields that go stale by design:
+/// types, lengths, line counts, directions, fold flags, makers by position, and the data of each class.
+/// Returns the first difference in words; empty when there is none.
+std::string differenceFromFreshParse(const Tree& tree);
+
+/// The tree of a text as one string, and a text with its control characters made visible.
+std::string indentedTree(std::u16string_view text, RuleConfig::RuleSet rules);
+std::string html(std::u16string_view text, RuleConfig::RuleSet rules);
+std::string visible(std::u16string_view text);
+
+inline constexpr RuleConfig::RuleSet allRuleSets[] = {RuleConfig::Commonmark, RuleConfig::Extended,
+                                                      RuleConfig::Simplified};
+const char* nameOf(RuleConfig::RuleSet rules);
+
+} // namespace Ondo::Test
