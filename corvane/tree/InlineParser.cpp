@@ -37,6 +37,11 @@ InlineParserNode::InlineParserNode(std::u16string_view text_, Lines& lines_, con
 
 void InlineParserNode::parseBlock(Node* blockNode) {
     CORVANE_ASSERT(blockNode->isBlock(), "InlineParser");
+    parseInlineBlocks(blockNode);
+    addTextNodes(blockNode);
+}
+
+void InlineParserNode::parseInlineBlocks(Node* blockNode) {
     // The parse of a node may move or delete what follows inside it, so the next one is sought afterwards.
     const Node* const end = blockNode->nextInSequenceSkippingSubtree();
     for (Node* node = blockNode; node != end;) {
@@ -44,7 +49,6 @@ void InlineParserNode::parseBlock(Node* blockNode) {
         if (node->category == Node::Category::InlineBlock) parseNode(node, inlineRules_);
         node = isContainer ? node->nextInSequence() : node->nextInSequenceSkippingSubtree();
     }
-    addTextNodes(blockNode);
 }
 
 void InlineParserNode::parseNode(Node* node, const InlineRuleMap& rules) {

@@ -29,6 +29,7 @@ public:
     static void addTextNodes(Node* node);
 
 private:
+    void parseInlineBlocks(Node* blockNode);
     bool matchRules(Node* node, GoLines& cursor, const InlineRuleMap& rules);
     void offerLineEnding(Node* node, const GoLines& cursor, const InlineRuleMap& rules);
 

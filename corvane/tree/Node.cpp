@@ -4,6 +4,7 @@
 
 #include "corvane/scan/Assert.h"
 #include "corvane/tree/DocumentNode.h"
+#include "corvane/tree/NodeArena.h"
 
 namespace Ondo {
 
@@ -28,6 +29,19 @@ constexpr const char16_t* sharedName(std::uint16_t type) {
     if (categories[type] == Node::Category::Attribute) return names[ONDO_FENCED_CODE_INFO_ATTRIBUTE_NODE];
     return names[type];
 }
+
+constexpr std::uint16_t codeTypes[] = {ONDO_FENCED_CODE_NODE, ONDO_HTML_BLOCK_NODE, ONDO_INDENTED_CODE_NODE,
+                                       ONDO_YAML_NODE,        ONDO_CODE_SPAN_NODE,  ONDO_RAW_HTML_NODE,
+                                       ONDO_MATH_SPAN_NODE,   ONDO_MATH_BLOCK_NODE};
+
+struct CodeTable {
+    bool isCode[nodeTypeCount] = {};
+    constexpr CodeTable() {
+        for (const std::uint16_t type : codeTypes)
+            isCode[type] = true;
+    }
+};
+constexpr CodeTable codeTable;
 
 FirstLevelIndex& indexOf(const Node* document) {
     return static_cast<const DocumentNode*>(document)->index;
@@ -62,18 +76,32 @@ Node::Category nodeCategory(std::uint16_t type) {
 
 Node::Node(std::uint16_t type_, const char16_t* name_, Category category_, std::int64_t offset,
            std::int64_t end, std::int64_t line, std::int64_t lineCount_, Node* maker_)
-    : type(type_), name(name_), category(category_), offsetWhenParsed(offset), charCount(end - offset),
-      lineWhenParsed(line), lineCount(lineCount_), maker(maker_) {
+    : type(type_), category(category_), name(name_), offsetWhenParsed(offset), charCount(end - offset),
+      lineWhenParsed(line), lineCount(lineCount_), maker(maker_), isFromArena(NodeArena::isActive()) {
     CORVANE_ASSERT(offsetWhenParsed >= 0, "Node");
     CORVANE_ASSERT(charCount >= 0, "Node");
     CORVANE_ASSERT(lineWhenParsed >= 0, "Node");
     CORVANE_ASSERT(lineCount >= 0, "Node");
+    if (isCode()) direction = Direction::LeftToRight;
     ++instanceCount;
 }
 
 Node::Node(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t lineCount_,
            Node* maker_)
     : Node(type_, sharedName(type_), categories[type_], offset, end, line, lineCount_, maker_) {}
+
+void* Node::operator new(std::size_t size) {
+    return NodeArena::isActive() ? NodeArena::allocate(size) : ::operator new(size);
+}
+
+void Node::operator delete(Node* node, std::destroying_delete_t) {
+    const bool isFromArena = node->isFromArena;
+    node->~Node();
+    if (isFromArena)
+        NodeArena::free(node);
+    else
+        ::operator delete(node);
+}
 
 Node::~Node() {
     // Children of a child are queued behind it, so that the depth of the tree costs no stack.
@@ -88,6 +116,10 @@ Node::~Node() {
         child = next;
     }
     --instanceCount;
+}
+
+bool Node::isCode() const {
+    return codeTable.isCode[type];
 }
 
 std::u16string Node::toIndentedTree() const {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -54,8 +55,8 @@ public:
     static std::int64_t instanceCount;
 
     std::uint16_t type;
-    const char16_t* name; ///< static, shared by all nodes of a type
     Category category;
+    const char16_t* name; ///< static, shared by all nodes of a type
     /// Absolute offset at the time of the parse. Means something only during that parse and among nodes of
     /// it.
     std::int64_t offsetWhenParsed;
@@ -71,6 +72,7 @@ public:
     Direction direction = Direction::None;
     bool folded = false;
     bool startsIndexRun = false; ///< bookkeeping of FirstLevelIndex
+    const bool isFromArena;      ///< where the memory goes back to
 
     /// Asserts that offset, length, line and line count are not negative.
     Node(std::uint16_t type, const char16_t* name, Category category, std::int64_t offset, std::int64_t end,
@@ -80,6 +82,8 @@ public:
          Node* maker = nullptr);
     /// Deletes the subtree, without recursion.
     virtual ~Node();
+    static void* operator new(std::size_t size);
+    static void operator delete(Node* node, std::destroying_delete_t);
     Node(const Node&) = delete;
     Node& operator=(const Node&) = delete;
 
@@ -96,6 +100,8 @@ public:
     virtual bool hasEqualData(const Node& other) const;
 
     bool isBlock() const { return category <= Category::InlineBlock; }
+    /// Code goes left to right whatever stands around it, from the construction of its node on.
+    bool isCode() const;
     bool isMarker() const { return category == Category::Marker; }
     /// A leaf by its kind: syntax characters, blanks, line endings and text never have children.
     bool isLeafKind() const { return category >= Category::Marker; }

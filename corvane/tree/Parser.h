@@ -9,9 +9,11 @@ namespace Ondo {
 
 class RuleConfig;
 
-/// Both passes over a text. The root it returns holds offsets, no lines and no text.
+/// Both passes over a text, and the writing direction, for which `seed` is what the text before hands on. The
+/// root that is returned holds offsets, no lines and no text.
 struct CORVANE_EXPORT Parser {
-    static std::unique_ptr<Node> parse(std::u16string_view text, RuleConfig& config);
+    static std::unique_ptr<Node> parse(std::u16string_view text, RuleConfig& config,
+                                       Direction seed = Direction::None);
 };
 
 } // namespace Ondo

@@ -100,6 +100,7 @@ Tree::Tree(Tree&& other) noexcept = default;
 
 Tree& Tree::operator=(Tree&& other) noexcept {
     root = std::move(other.root);
+    arena_ = std::move(other.arena_);
     markdown_ = std::move(other.markdown_);
     ruleConfig_ = std::move(other.ruleConfig_);
     fullReparseCount_ = other.fullReparseCount_;
@@ -111,9 +112,8 @@ Tree& Tree::operator=(Tree&& other) noexcept {
 Tree::~Tree() = default;
 
 std::unique_ptr<Node> Tree::parse(std::u16string_view text, const Node* previousBlock) {
-    std::unique_ptr<Node> parsed = Parser::parse(text, ruleConfig_);
-    setWritingDirection(text, parsed.get(), directionBehind(previousBlock));
-    return parsed;
+    const NodeArena::Scope scope(*arena_);
+    return Parser::parse(text, ruleConfig_, directionBehind(previousBlock));
 }
 
 std::vector<Range> Tree::replace(Range range, std::u16string_view replacement) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "corvane/tree/Node.h"
+#include "corvane/tree/NodeArena.h"
 #include "corvane/tree/RuleConfig.h"
 #include "corvane/tree/SyncRanges.h"
 #include "corvane/tree/TextBuffer.h"
@@ -22,6 +23,7 @@ struct ReparseRanges;
 /// first-level blocks that an edit left as they were stay the same objects.
 class CORVANE_EXPORT Tree {
     // The nodes tell the label indexes of the rules when they go, so the rules outlive them.
+    NodeArena::Owner arena_ = NodeArena::make();
     TextBuffer markdown_;
     RuleConfig ruleConfig_;
     std::int64_t fullReparseCount_ = 0;

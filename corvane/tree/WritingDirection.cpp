@@ -14,17 +14,9 @@ constexpr std::uint16_t visibleAttributes[] = {
     ONDO_HASHTAG_SEGMENT_ATTRIBUTE_NODE, ONDO_IMAGE_TEXT_ATTRIBUTE_NODE, ONDO_LINK_TEXT_ATTRIBUTE_NODE,
     ONDO_WIKILINK_SEGMENT_ATTRIBUTE_NODE, ONDO_WIKILINK_ALIAS_ATTRIBUTE_NODE};
 
-constexpr std::uint16_t codeTypes[] = {ONDO_FENCED_CODE_NODE, ONDO_HTML_BLOCK_NODE, ONDO_INDENTED_CODE_NODE,
-                                       ONDO_YAML_NODE,        ONDO_CODE_SPAN_NODE,  ONDO_RAW_HTML_NODE,
-                                       ONDO_MATH_SPAN_NODE,   ONDO_MATH_BLOCK_NODE};
-
 template <std::size_t N>
 bool isOneOf(const std::uint16_t (&types)[N], const Node* node) {
     return std::find(std::begin(types), std::end(types), node->type) != std::end(types);
-}
-
-bool isCode(const Node* node) {
-    return isOneOf(codeTypes, node);
 }
 
 /// Whether a text below `node` counts. Attributes are transparent when a reader sees them.
@@ -36,13 +28,12 @@ bool isVisible(const Node* text) {
 }
 
 Direction directionOf(std::u16string_view text) {
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        char32_t c = text[at];
-        const bool isPair = c >= 0xD800 && c < 0xDC00 && at + 1 < text.size() && text[at + 1] >= 0xDC00 &&
-                            text[at + 1] < 0xE000;
-        if (isPair) c = 0x10000 + ((c - 0xD800) << 10) + (text[++at] - 0xDC00U);
+    const auto size = static_cast<std::int64_t>(text.size());
+    for (std::int64_t at = 0; at < size;) {
+        const char32_t c = Util::codePointAt(text, at);
         if (Util::isStrongLeftToRight(c)) return Direction::LeftToRight;
         if (Util::isStrongRightToLeft(c)) return Direction::RightToLeft;
+        at += Util::codeUnitCount(c);
     }
     return Direction::None;
 }
@@ -67,9 +58,11 @@ void setInherited(Node* block, Direction current) {
         if (node->type == ONDO_TABLE_CELL_NODE) node->direction = current;
 }
 
-/// The nodes below the first level that may carry a direction.
-bool isExamined(const Node* node) {
-    return node->type == ONDO_TABLE_CELL_NODE || node->parent->type == ONDO_DOCUMENT_NODE;
+/// Gives a node its own direction or the inherited one; returns what it hands on.
+Direction examine(std::u16string_view markdown, Node* node, Direction current) {
+    const Direction own = writingDirectionOfContent(markdown, node);
+    node->direction = own == Direction::None ? current : own;
+    return inherited(node->direction);
 }
 
 } // namespace
@@ -85,21 +78,26 @@ Direction writingDirectionOfContent(std::u16string_view markdown, const Node* no
     return Direction::None;
 }
 
+Direction setBlockDirection(std::u16string_view markdown, Node* block, Direction current) {
+    // Code has its direction from its constructor; elsewhere only the cells of a table are below the first
+    // level.
+    if (block->isCode()) return current;
+    current = examine(markdown, block, current);
+    if (block->type != ONDO_TABLE_NODE) return current;
+    const Node* const end = block->nextInSequenceSkippingSubtree();
+    for (Node* node = block; node != end; node = node->nextInSequence())
+        if (node->type == ONDO_TABLE_CELL_NODE) current = examine(markdown, node, current);
+    return current;
+}
+
 void setWritingDirection(std::u16string_view markdown, Node* root, Direction seed) {
     Direction current = seed;
-    for (Node* node = root->nextInSequence(); node; node = node->nextInSequence()) {
-        if (isCode(node)) {
-            node->direction = Direction::LeftToRight;
-        } else if (isExamined(node)) {
-            const Direction own = writingDirectionOfContent(markdown, node);
-            node->direction = own == Direction::None ? current : own;
-            current = inherited(node->direction);
-        }
-    }
+    for (Node* block = root->firstChild; block; block = block->nextSibling)
+        current = setBlockDirection(markdown, block, current);
 }
 
 Direction directionBehind(const Node* block) {
-    while (block && isCode(block))
+    while (block && block->isCode())
         block = block->previousSibling;
     if (!block) return Direction::None;
     if (block->type != ONDO_TABLE_NODE) return inherited(block->direction);
@@ -114,7 +112,7 @@ Direction directionBehind(const Node* block) {
 Node* inheritDirection(Node* block, Direction current) {
     Node* lastChanged = nullptr;
     for (; block; block = block->nextSibling) {
-        if (isCode(block)) continue;
+        if (block->isCode()) continue;
         if (isOwn(block->direction) || block->direction == current) break;
         setInherited(block, current);
         lastChanged = block;

@@ -16,6 +16,10 @@ namespace Ondo {
 /// a reader sees, or None. Reads at `offsetWhenParsed`: on a tree straight after its parse only.
 CORVANE_EXPORT Direction writingDirectionOfContent(std::u16string_view markdown, const Node* node);
 
+/// Sets the direction of the nodes of a fresh first-level block. `current` is what the text before it hands
+/// on; the result is what the block hands on.
+CORVANE_EXPORT Direction setBlockDirection(std::u16string_view markdown, Node* block, Direction current);
+
 /// Sets the direction of all nodes of a fresh tree. `seed` is what the text before it hands on.
 CORVANE_EXPORT void setWritingDirection(std::u16string_view markdown, Node* root, Direction seed);
 

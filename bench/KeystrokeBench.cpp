@@ -1,0 +1,116 @@
+// A character typed into a note, and what finding the edited block costs.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+#include "bench/BenchNote.h"
+#include "bench/CpuClock.h"
+#include "corvane/scan/Util.h"
+#include "corvane/tree/DocumentNode.h"
+#include "corvane/tree/Tree.h"
+
+namespace Ondo::Bench {
+namespace {
+
+/// The paragraph of first level nearest behind `offset`.
+std::int64_t paragraphBehind(const Tree& tree, std::int64_t offset) {
+    Node::Iterator at = tree.iteratorAtOffset(offset, LevelSetting::FirstLevel);
+    while (at->parent != tree.root.get())
+        at.parent();
+    while (at->type != ONDO_PARAGRAPH_NODE)
+        at.nextSibling();
+    return at.offset + at->charCount / 2;
+}
+
+void report(benchmark::State& state, std::vector<double>& microseconds) {
+    std::sort(microseconds.begin(), microseconds.end());
+    const auto quantile = [&](double q) {
+        return microseconds[static_cast<std::size_t>(q * static_cast<double>(microseconds.size() - 1))];
+    };
+    state.counters["p50_us"] = quantile(0.50);
+    state.counters["p95_us"] = quantile(0.95);
+    state.counters["p99_us"] = quantile(0.99);
+}
+
+/// Types and deletes a character in turn at the offset that `place` gives.
+template <class Place>
+void typeAt(benchmark::State& state, Place place) {
+    Tree tree(Util::utf16(benchNote(static_cast<std::size_t>(state.range(0)))), RuleConfig::Extended);
+    std::vector<double> microseconds;
+    std::int64_t offset = 0;
+    bool isTyping = true;
+    for (auto _ : state) {
+        if (isTyping) offset = place(tree);
+        const Range range{offset, isTyping ? 0 : 1};
+        const double start = cpuSeconds();
+        benchmark::DoNotOptimize(tree.replace(range, isTyping ? u"x" : u""));
+        const double seconds = cpuSeconds() - start;
+        state.SetIterationTime(seconds);
+        microseconds.push_back(seconds * 1e6);
+        isTyping = !isTyping;
+    }
+    report(state, microseconds);
+}
+
+void typeInTheMiddle(benchmark::State& state) {
+    typeAt(state, [](const Tree& tree) { return paragraphBehind(tree, tree.length() / 2); });
+}
+
+/// Each keystroke somewhere else: the worst that an index of blocks and a gap in the text can meet.
+void typeAnywhere(benchmark::State& state) {
+    std::mt19937_64 random(1);
+    typeAt(state, [&random](const Tree& tree) {
+        const auto limit = static_cast<std::uint64_t>(tree.length() * 9 / 10);
+        return paragraphBehind(tree, static_cast<std::int64_t>(random() % limit));
+    });
+}
+
+/// The position of a first-level block, asked of blocks in random order.
+void findBlock(benchmark::State& state) {
+    const Tree tree(Util::utf16(benchNote(static_cast<std::size_t>(state.range(0)))), RuleConfig::Extended);
+    std::vector<Node*> blocks;
+    for (Node* block = tree.root->firstChild; block; block = block->nextSibling)
+        blocks.push_back(block);
+    std::mt19937_64 random(1);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(blocks[random() % blocks.size()]->startOffset());
+    state.counters["blocks"] = static_cast<double>(blocks.size());
+}
+
+/// The same by the plain walk over the siblings, which the index replaces.
+void findBlockByWalk(benchmark::State& state) {
+    const Tree tree(Util::utf16(benchNote(static_cast<std::size_t>(state.range(0)))), RuleConfig::Extended);
+    std::vector<Node*> blocks;
+    for (Node* block = tree.root->firstChild; block; block = block->nextSibling)
+        blocks.push_back(block);
+    std::mt19937_64 random(1);
+    for (auto _ : state) {
+        std::int64_t offset = 0;
+        for (const Node* at = blocks[random() % blocks.size()]->previousSibling; at; at = at->previousSibling)
+            offset += at->charCount;
+        benchmark::DoNotOptimize(offset);
+    }
+    state.counters["blocks"] = static_cast<double>(blocks.size());
+}
+
+void sizes(benchmark::internal::Benchmark* b) {
+    b->Unit(benchmark::kMicrosecond)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Arg(10'000'000);
+}
+
+void keystrokes(benchmark::internal::Benchmark* b) {
+    sizes(b);
+    b->UseManualTime()->Iterations(4000);
+}
+
+BENCHMARK(typeInTheMiddle)->Apply(keystrokes);
+BENCHMARK(typeAnywhere)->Apply(keystrokes);
+BENCHMARK(findBlock)->Apply(sizes);
+BENCHMARK(findBlockByWalk)->Apply(sizes);
+
+} // namespace
+} // namespace Ondo::Bench
+
+BENCHMARK_MAIN();

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "corvane/scan/Export.h"
+
+namespace Ondo {
+
+/// The memory of the nodes of one tree.
+///
+/// Nodes that are made together lie together, which is what parsing and walking spend their time on. A tree
+/// belongs to one thread at a time, and so does its arena; different trees share nothing. Nodes that are made
+/// outside any Scope come from the heap, and under AddressSanitizer all do, so that it sees each of them.
+class CORVANE_EXPORT NodeArena {
+public:
+    /// Lets the nodes that are made on this thread come from an arena.
+    class CORVANE_EXPORT Scope {
+    public:
+        explicit Scope(NodeArena& arena);
+        ~Scope();
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+
+    private:
+        NodeArena* outer_;
+    };
+
+    /// The owner's hold on an arena. Nodes that outlive it keep the arena alive.
+    struct CORVANE_EXPORT Release {
+        void operator()(NodeArena* arena) const;
+    };
+    using Owner = std::unique_ptr<NodeArena, Release>;
+    static Owner make();
+
+    /// Whether nodes made now come from an arena.
+    static bool isActive();
+    /// From the arena of the innermost scope; asserts that there is one.
+    static void* allocate(std::size_t size);
+    static void free(void* memory);
+
+private:
+    struct Chunk;
+
+    static constexpr std::size_t granularity = 16;
+    static constexpr std::size_t classCount = 33;
+
+    NodeArena() = default;
+    ~NodeArena();
+
+    void* take(std::size_t sizeClass);
+    void put(Chunk* chunk, void* memory);
+    void addChunk(std::size_t sizeClass);
+    void offer(Chunk* chunk);
+    void withdraw(Chunk* chunk);
+
+    Chunk* offered_[classCount] = {}; ///< by size class: chunks with a free slot
+    std::int64_t liveCount_ = 0;
+    bool isReleased_ = false;
+};
+
+} // namespace Ondo
