@@ -15,6 +15,7 @@ set(CORVANE_PUBLIC_HEADERS
     tree/InlineRule.h
     tree/LabeledConnections.h
     tree/Node.h
+    tree/NodeArena.h
     tree/NodeType.h
     tree/NodeTypes.def
     tree/Range.h

@@ -43,7 +43,7 @@ std::int64_t AtxHeading::match(BlockParser& parser, std::int64_t line, std::int6
     const std::int64_t contentEnd = back.previousWhile(Go::spaceOrTab);
 
     auto node = std::make_unique<AtxHeadingNode>(l.start, l.next, line, level);
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_ATX_HEADING_OPEN_MARKER_NODE, l.contentStart, openEnd, line);
     ParserBase::linkSpace(node.get(), openEnd, contentStart, line);
     ParserBase::linkSpace(node.get(), contentEnd, closeStart, line);

@@ -10,7 +10,7 @@ std::int64_t BlankLine::match(BlockParser& parser, std::int64_t line, std::int64
     if (blank.contentStart != blank.contentEnd) return 0;
     if (action == ParseAction::Check) return 1;
     auto node = std::make_unique<BlankLineNode>(blank.start, blank.next, line);
-    ParserBase::linkSpace(node.get(), blank.leading, blank.contentEnd, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkLineEnding(node.get(), blank.contentEnd, blank.next, line);
     parser.mergeNode(parent, std::move(node));
     return 1;

@@ -16,22 +16,15 @@ std::int64_t prefixEnd(std::u16string_view text, const Lines::Line& line) {
     return go.nextWhile(Go::character(U' '), 1);
 }
 
-/// Links the prefix and lets the line begin behind it. A tab right behind ">" gives its first column to the
-/// prefix; the rest stays as indentation of the content.
-void takePrefix(std::u16string_view text, Node* quote, Lines::Line& line, std::int64_t number,
-                std::int64_t end) {
-    const bool isTab = text[static_cast<std::size_t>(end - 1)] == u'>' &&
-                       Go(text, end, line.end).isNext(Go::character(U'\t'));
+/// Takes the prefix off the line. A tab right behind ">" gives its first column to the prefix; the rest stays
+/// as indentation of the content.
+void takePrefix(BlockParser& parser, Node* quote, std::int64_t number, std::int64_t end) {
+    Lines::Line& line = parser.lines[number];
+    const bool isTab = parser.text[static_cast<std::size_t>(end - 1)] == u'>' &&
+                       Go(parser.text, end, line.end).isNext(Go::character(U'\t'));
     const std::int64_t base = line.contentColumn + (end - line.contentStart) + (isTab ? 1 : 0);
-    ParserBase::linkSpace(quote, line.leading, line.contentStart, number);
-    ParserBase::linkMarker(quote, ONDO_BLOCK_QUOTE_MARKER_NODE, line.contentStart, end, number);
-    line.setLeading(end, text);
+    parser.takePrefix(number, ONDO_BLOCK_QUOTE_MARKER_NODE, end, quote);
     line.setBaseIndentation(base);
-}
-
-void dropChildrenFrom(Node* node, std::int64_t offset) {
-    while (node->lastChild && node->lastChild->offsetWhenParsed >= offset)
-        node->lastChild->unlinkSubtree().reset();
 }
 
 } // namespace
@@ -45,13 +38,12 @@ std::int64_t BlockQuote::match(BlockParser& parser, std::int64_t line, std::int6
 
     auto node = std::make_unique<BlockQuoteNode>(lines[line].start, lines[line].next, line);
     SavedLines saved(lines);
-    takePrefix(parser.text, node.get(), lines[line], line, end);
+    takePrefix(parser, node.get(), line, end);
     parser.openBlock(node.get());
     const std::int64_t last = takeLines(parser, node.get(), line, lastLine, parent, saved);
     const std::int64_t count = parser.parseBlock(line, last, node.get());
     node->charCount = lines[line + count - 1].next - node->offsetWhenParsed;
     node->lineCount = count;
-    dropChildrenFrom(node.get(), node->endWhenParsed());
     saved.restoreFrom(line + count);
     parser.mergeNode(parent, std::move(node));
     return count;
@@ -70,7 +62,7 @@ std::int64_t BlockQuote::takeLines(BlockParser& parser, Node* quote, std::int64_
         if (end == Go::NoPos)
             l.lazy = true;
         else
-            takePrefix(parser.text, quote, l, k, end);
+            takePrefix(parser, quote, k, end);
     }
     return k - 1;
 }

@@ -51,7 +51,7 @@ std::int64_t Callout::match(BlockParser& parser, std::int64_t line, std::int64_t
     if (action == ParseAction::Check) return 1;
 
     auto node = std::make_unique<CalloutHeadNode>(l.start, l.next, line, static_cast<CalloutTypes>(word));
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_CALLOUT_MARKER_NODE, l.contentStart, markerEnd, line);
     ParserBase::linkSpace(node.get(), markerEnd, titleStart, line);
     ParserBase::linkSpace(node.get(), std::max(l.contentEnd, titleStart), l.end, line);

@@ -17,9 +17,10 @@ std::int64_t closingFenceEnd(std::u16string_view text, const Lines::Line& line, 
     return closes ? end : Go::NoPos;
 }
 
-void linkClosingFence(Node* node, const Fence& fence, const Lines::Line& line, std::int64_t end,
+void linkClosingFence(BlockParser& parser, Node* node, const Fence& fence, std::int64_t end,
                       std::int64_t number) {
-    ParserBase::linkSpace(node, line.leading, line.contentStart, number);
+    const Lines::Line& line = parser.lines[number];
+    parser.linkPrefix(node, number);
     ParserBase::linkMarker(node, fence.closeType, line.contentStart, end, number);
     ParserBase::linkSpace(node, end, line.end, number);
     ParserBase::linkLineEnding(node, line.end, line.next, number);
@@ -33,9 +34,9 @@ std::int64_t strippedEnd(std::u16string_view text, const Lines::Line& line, std:
     return offset;
 }
 
-void linkContentLine(Node* content, std::u16string_view text, const Lines::Line& line, std::int64_t number,
-                     std::int64_t indentation) {
-    ParserBase::linkSpace(content, line.leading, strippedEnd(text, line, indentation), number);
+void linkContentLine(BlockParser& parser, Node* content, std::int64_t number, std::int64_t indentation) {
+    const Lines::Line& line = parser.lines[number];
+    parser.linkPrefix(content, number, strippedEnd(parser.text, line, indentation));
     ParserBase::linkLineEnding(content, line.end, line.next, number);
     content->charCount = line.next - content->offsetWhenParsed;
     if (line.next > line.end) ++content->lineCount;
@@ -60,13 +61,13 @@ std::int64_t parseFencedLines(BlockParser& parser, Node* node, const Fence& fenc
         last = k;
         const std::int64_t end = closingFenceEnd(parser.text, lines[k], fence);
         if (end != Go::NoPos) {
-            linkClosingFence(node, fence, lines[k], end, k);
+            linkClosingFence(parser, node, fence, end, k);
             break;
         }
         if (!content)
             content = node->link(std::make_unique<Inline::AttributeNode>(fence.contentType, lines[k].start,
                                                                          lines[k].start, k, 0, node));
-        linkContentLine(content, parser.text, lines[k], k, indentation);
+        linkContentLine(parser, content, k, indentation);
         appendCode(code, parser.text, lines[k], indentation);
         if (k < lastLine || parent->category != Node::Category::Document) code += u'\n';
     }

@@ -50,7 +50,7 @@ std::int64_t FencedCode::match(BlockParser& parser, std::int64_t line, std::int6
 
     const char16_t c = parser.text[static_cast<std::size_t>(l.contentStart)];
     auto node = std::make_unique<FencedCodeNode>(l.start, l.next, line, c);
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_FENCED_CODE_OPEN_MARKER_NODE, l.contentStart, opening.fenceEnd,
                            line);
     ParserBase::linkSpace(node.get(), opening.fenceEnd, opening.infoStart, line);

@@ -31,13 +31,14 @@ bool isTaskItem(const Node* node) {
 }
 
 /// Adds a line of code, or a blank line between two of them.
-void addLine(IndentedCodeNode* node, std::u16string_view text, const Lines::Line& line, std::int64_t number) {
-    const Indent indent = takeIndent(text, line);
-    ParserBase::linkSpace(node, line.leading, indent.end, number);
+void addLine(BlockParser& parser, IndentedCodeNode* node, std::int64_t number) {
+    const Lines::Line& line = parser.lines[number];
+    const Indent indent = takeIndent(parser.text, line);
+    parser.linkPrefix(node, number, indent.end);
     ParserBase::linkLineEnding(node, line.end, line.next, number);
     if (indent.column > codeIndentation)
         node->code.append(static_cast<std::size_t>(indent.column - codeIndentation), u' ');
-    node->code += Go(text).substring(indent.end, line.end);
+    node->code += Go(parser.text).substring(indent.end, line.end);
     if (line.next > line.end) node->code += u'\n';
 }
 
@@ -51,14 +52,14 @@ std::int64_t IndentedCode::match(BlockParser& parser, std::int64_t line, std::in
     if (action == ParseAction::Check) return 1;
 
     auto node = std::make_unique<IndentedCodeNode>(lines[line].start, lines[line].next, line);
-    addLine(node.get(), parser.text, lines[line], line);
+    addLine(parser, node.get(), line);
     std::int64_t last = line;
     for (std::int64_t k = line + 1; k <= lastLine && !lines[k].lazy; ++k) {
         if (lines[k].isBlank()) continue; // belongs only when more code follows
         if (lines[k].localIndentation() < codeIndentation) break;
         while (last < k) {
             ++last;
-            addLine(node.get(), parser.text, lines[last], last);
+            addLine(parser, node.get(), last);
         }
     }
     node->charCount = lines[last].next - node->offsetWhenParsed;

@@ -131,9 +131,7 @@ List::parseListItem(BlockParser& parser, std::int64_t line, std::int64_t lastLin
     const std::int64_t number = previousItem ? previousItem->number + 1 : first;
     auto item =
         std::make_unique<ListItemNode>(l.start, l.next, line, head.marker, head.task, written, number);
-    ParserBase::linkSpace(item.get(), l.leading, l.contentStart, line);
-    ParserBase::linkMarker(item.get(), ONDO_LIST_ITEM_MARKER_NODE, l.contentStart, head.markerEnd, line);
-    l.setLeading(head.markerEnd, parser.text);
+    parser.takePrefix(line, ONDO_LIST_ITEM_MARKER_NODE, head.markerEnd, item.get());
     l.baseIndentation = head.textColumn;
     l.followingIndentation = head.contentColumn;
 

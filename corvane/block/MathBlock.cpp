@@ -26,7 +26,7 @@ std::int64_t MathBlock::match(BlockParser& parser, std::int64_t line, std::int64
     if (action == ParseAction::Check) return 1;
 
     auto node = std::make_unique<MathBlockNode>(l.start, l.next, line);
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_MATH_BLOCK_OPEN_MARKER_NODE, l.contentStart, l.contentEnd, line);
     ParserBase::linkSpace(node.get(), l.contentEnd, l.end, line);
     ParserBase::linkLineEnding(node.get(), l.end, l.next, line);

@@ -6,8 +6,9 @@ namespace Ondo::Block {
 
 namespace {
 
-void linkLine(ParagraphNode* node, const Lines::Line& line, std::int64_t number) {
-    ParserBase::linkSpace(node, line.leading, line.contentStart, number);
+void linkLine(BlockParser& parser, ParagraphNode* node, std::int64_t number) {
+    const Lines::Line& line = parser.lines[number];
+    parser.linkPrefix(node, number);
     ParserBase::linkSpace(node, line.contentEnd, line.end, number);
     ParserBase::linkLineEnding(node, line.end, line.next, number);
 }
@@ -20,14 +21,14 @@ std::int64_t Paragraph::match(BlockParser& parser, std::int64_t line, std::int64
     if (lines[line].isBlank()) return 0;
     if (action == ParseAction::Check) return 1;
     auto node = std::make_unique<ParagraphNode>(lines[line].start, lines[line].next, line, 1);
-    linkLine(node.get(), lines[line], line);
+    linkLine(parser, node.get(), line);
     // Terminating rules ask whether a paragraph is open above them.
     parser.openBlock(node.get());
     std::int64_t next = line + 1;
     for (; next <= lastLine && !lines[next].isBlank(); ++next) {
         if (hasMatchingTerminatingRule(parser, next, lastLine, parent)) break;
         if (lines[next].lazy) node->hasLazyLines = true;
-        linkLine(node.get(), lines[next], next);
+        linkLine(parser, node.get(), next);
     }
     node->charCount = lines[next - 1].next - node->offsetWhenParsed;
     node->lineCount = next - line;

@@ -41,7 +41,7 @@ std::int64_t SetextHeading::match(BlockParser& parser, std::int64_t line, std::i
     auto node = std::make_unique<SetextHeadingNode>(
         paragraph->offsetWhenParsed, l.next, paragraph->lineWhenParsed, paragraph->lineCount + 1, level);
     parser.takeLastBlock(parent)->moveAllChildrenTo(node.get());
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_SETEXT_HEADING_MARKER_NODE, l.contentStart, l.contentEnd, line);
     ParserBase::linkSpace(node.get(), l.contentEnd, l.end, line);
     ParserBase::linkLineEnding(node.get(), l.end, l.next, line);

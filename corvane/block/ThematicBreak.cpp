@@ -45,7 +45,7 @@ std::int64_t ThematicBreak::match(BlockParser& parser, std::int64_t line, std::i
     if (action == ParseAction::Check) return 1;
 
     auto node = std::make_unique<ThematicBreakNode>(l.start, l.next, line);
-    ParserBase::linkSpace(node.get(), l.leading, l.contentStart, line);
+    parser.linkPrefix(node.get(), line);
     ParserBase::linkMarker(node.get(), ONDO_THEMATIC_BREAK_MARKER_NODE, l.contentStart, end, line);
     ParserBase::linkSpace(node.get(), end, l.end, line);
     ParserBase::linkLineEnding(node.get(), l.end, l.next, line);

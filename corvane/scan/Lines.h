@@ -31,7 +31,8 @@ public:
         /// only on the first line of a list item, whose own text may begin further right.
         std::int64_t followingIndentation = 0;
         std::int64_t contentColumn = 0; ///< real column of `contentStart`
-        bool lazy = false;              ///< lacks its container's marker: only an open paragraph may take it
+        std::int64_t prefix = -1; ///< the last piece before `leading`, in the parser's list; -1 for none
+        bool lazy = false;        ///< lacks its container's marker: only an open paragraph may take it
 
         bool isBlank() const { return contentStart == end; }
         /// The empty entry behind the final line ending (or of an empty text).

@@ -21,7 +21,7 @@ std::unique_ptr<Node> BlockParser::parseDocument() {
 }
 
 std::int64_t BlockParser::parseBlock(std::int64_t first, std::int64_t last, Node* parent) {
-    frames_.push_back({parent, nullptr, nullptr});
+    frames_.push_back({parent, nullptr});
     std::int64_t line = first;
     while (line <= last && !lines[line].isEmptyEntry() && !lines[line].lazy)
         line += parseLine(line, last, parent);
@@ -51,18 +51,32 @@ void BlockParser::openBlock(Node* node) {
 
 std::unique_ptr<Node> BlockParser::takeLastBlock(const Node* parent) {
     CORVANE_ASSERT(lastBlock(parent), "BlockParser");
-    Frame& frame = frames_.back();
-    frame.passed = frame.lastBlock->previousSibling;
-    return std::exchange(frame.lastBlock, nullptr)->unlinkSubtree();
+    return std::exchange(frames_.back().lastBlock, nullptr)->unlinkSubtree();
 }
 
 Node* BlockParser::mergeNode(Node* parent, std::unique_ptr<Node> node) {
-    Frame& frame = frames_.back();
-    if (frame.parent != parent) return ParserBase::mergeNode(parent, std::move(node));
-    Node* const merged = ParserBase::mergeNode(parent, std::move(node), frame.passed);
-    frame.lastBlock = merged;
-    if (merged && merged->parent == parent) frame.passed = merged;
+    Node* const merged = ParserBase::mergeNode(parent, std::move(node), parent->lastChild);
+    if (frames_.back().parent == parent) frames_.back().lastBlock = merged;
     return merged;
+}
+
+void BlockParser::takePrefix(std::int64_t line, NodeType type, std::int64_t end, Node* maker) {
+    Lines::Line& l = lines[line];
+    pieces_.push_back({type, l.leading, l.contentStart, end, maker, l.prefix});
+    l.prefix = static_cast<std::int64_t>(pieces_.size()) - 1;
+    l.setLeading(end, text);
+}
+
+void BlockParser::linkPrefix(Node* node, std::int64_t line, std::int64_t end) {
+    outward_.clear();
+    for (std::int64_t at = lines[line].prefix; at >= 0; at = pieces_[static_cast<std::size_t>(at)].outer)
+        outward_.push_back(at);
+    for (auto at = outward_.rbegin(); at != outward_.rend(); ++at) {
+        const PrefixPiece& piece = pieces_[static_cast<std::size_t>(*at)];
+        linkSpace(node, piece.start, piece.markerStart, line);
+        linkMarker(node, piece.type, piece.markerStart, piece.end, line, piece.maker);
+    }
+    linkSpace(node, lines[line].leading, end, line);
 }
 
 } // namespace Ondo

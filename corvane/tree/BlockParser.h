@@ -31,15 +31,23 @@ public:
 
     bool canNest() const { return frames_.size() <= maximumContainerDepth; }
 
+    /// Takes a container's prefix off a line: the indentation and a marker up to `end`, behind which the line
+    /// now begins. They are linked by the block that the line ends up in.
+    void takePrefix(std::int64_t line, NodeType type, std::int64_t end, Node* maker);
+    /// Links what stands in front of the line's content: the prefixes of its containers, and the blanks from
+    /// `leading` to `contentStart`, or to `end`.
+    void linkPrefix(Node* node, std::int64_t line) { linkPrefix(node, line, lines[line].contentStart); }
+    void linkPrefix(Node* node, std::int64_t line, std::int64_t end);
+
     /// The block of `parent` that was merged or opened last; null when there is none. Only the innermost
-    /// parent under parse is asked. Leaves of lines still to come may lie behind it.
+    /// parent under parse is asked.
     Node* lastBlock(const Node* parent) const;
     /// Tells that `node`, not yet merged, is what now stands last below the innermost parent.
     void openBlock(Node* node);
     /// Takes the last block out of the tree again.
     std::unique_ptr<Node> takeLastBlock(const Node* parent);
 
-    /// As ParserBase::mergeNode, with a search that begins behind the last block.
+    /// As ParserBase::mergeNode, with a search that begins behind the last child: blocks come in order.
     Node* mergeNode(Node* parent, std::unique_ptr<Node> node);
 
     InlineParserNode& inlineParser() { return inlineParser_; }
@@ -48,7 +56,17 @@ private:
     struct Frame {
         const Node* parent;
         Node* lastBlock; ///< merged or open
-        Node* passed;    ///< a child of the parent that lies before all that comes
+    };
+
+    /// The prefix of one container on one line. The pieces of a line are a list from the innermost outward,
+    /// so that restoring a line drops what was taken off it since.
+    struct PrefixPiece {
+        NodeType type;
+        std::int64_t start; ///< of the blanks in front of the marker
+        std::int64_t markerStart;
+        std::int64_t end;
+        Node* maker;
+        std::int64_t outer;
     };
 
     std::int64_t parseLine(std::int64_t line, std::int64_t last, Node* parent);
@@ -57,6 +75,8 @@ private:
     InlineParserNode inlineParser_;
     std::unique_ptr<Node> root_;
     std::vector<Frame> frames_;
+    std::vector<PrefixPiece> pieces_;
+    std::vector<std::int64_t> outward_; ///< scratch of linkPrefix
 };
 
 } // namespace Ondo

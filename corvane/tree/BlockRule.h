@@ -11,9 +11,9 @@ class BlockParser;
 /// The rule of a block construct.
 ///
 /// match() consumes whole lines. With Parse it makes the construct's node, from the `start` of its first line
-/// to the `next` of its last one, links what it knows below it (the indentation from `leading` to
-/// `contentStart` as a space, markers, line endings), and hands it over with BlockParser::mergeNode, last of
-/// all. Text is not linked: it fills the gaps later. With Check it only answers whether it would match on
+/// to the `next` of its last one, links below it, for each line, what stands in front of the content
+/// (BlockParser::linkPrefix), its markers and the line ending, and hands it over with BlockParser::mergeNode,
+/// last of all. Text is not linked: it fills the gaps later. With Check it only answers whether it would match on
 /// `line`: it builds nothing and leaves the table of lines as it is.
 class CORVANE_EXPORT BlockRule : public RuleBase {
 public:
