@@ -10,19 +10,39 @@ set(CORVANE_PUBLIC_HEADERS
     scan/Predicate.h
     scan/Unicode.h
     scan/Util.h
+    tree/BlockParser.h
     tree/BlockRule.h
     tree/Common.h
+    tree/DocumentNode.h
+    tree/FirstLevelIndex.h
+    tree/InlineParser.h
     tree/InlineRule.h
     tree/LabeledConnections.h
     tree/Node.h
     tree/NodeArena.h
     tree/NodeType.h
     tree/NodeTypes.def
+    tree/Parser.h
+    tree/ParserBase.h
     tree/Range.h
+    tree/ReparseRanges.h
     tree/ReplaceBatch.h
     tree/RuleBase.h
     tree/RuleConfig.h
     tree/RuleMap.h
     tree/SyncRanges.h
     tree/TextBuffer.h
-    tree/Tree.h)
+    tree/Tree.h
+    tree/TreeText.h
+    tree/WritingDirection.h
+    block/AtxHeading.h
+    block/BlankLine.h
+    block/BlockQuote.h
+    block/Callout.h
+    block/FencedCode.h
+    block/IndentedCode.h
+    block/List.h
+    block/MathBlock.h
+    block/Paragraph.h
+    block/SetextHeading.h
+    block/ThematicBreak.h)

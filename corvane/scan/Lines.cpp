@@ -1,6 +1,7 @@
 #include "corvane/scan/Lines.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "corvane/scan/Go.h"
 
@@ -34,11 +35,25 @@ std::int64_t skipBlanksBackward(std::int64_t from, std::int64_t limit, std::u16s
     return from;
 }
 
+/// Whether one of four code units is below U+000E, as all line endings are: looked at at once.
+bool mayEndLine(const char16_t* units) {
+    constexpr std::uint64_t lanes = 0x0001'0001'0001'0001;
+    std::uint64_t four = 0;
+    std::memcpy(&four, units, sizeof four);
+    return ((four - lanes * 0x000E) & ~four & (lanes * 0x8000)) != 0;
+}
+
 /// The first line ending character at or behind `from`, or `size`.
 std::int64_t findLineEnd(std::int64_t from, std::int64_t size, std::u16string_view view) {
-    while (from < size && !Predicate::isLineEndingCharacter(view[static_cast<std::size_t>(from)]))
-        ++from;
-    return from;
+    const char16_t* const units = view.data();
+    while (true) {
+        while (from + 4 <= size && !mayEndLine(units + from))
+            from += 4;
+        const std::int64_t checked = std::min(from + 4, size);
+        for (; from < checked; ++from)
+            if (Predicate::isLineEndingCharacter(units[from])) return from;
+        if (from == size) return size;
+    }
 }
 
 /// Behind the line ending at `end`; `end` when there is none.
