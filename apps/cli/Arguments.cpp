@@ -1,0 +1,167 @@
+#include "Arguments.h"
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Commands.h"
+#include "corvane/Version.h"
+
+namespace Cli {
+
+namespace {
+
+/// A word of the command line and what it stands for.
+template <class Value>
+struct Choice {
+    const char* name;
+    Value value;
+};
+
+constexpr Choice<Ondo::RuleConfig::RuleSet> ruleChoices[] = {
+    {"commonmark", Ondo::RuleConfig::Commonmark},
+    {"extended", Ondo::RuleConfig::Extended},
+    {"simplified", Ondo::RuleConfig::Simplified},
+};
+
+constexpr Choice<Print> printChoices[] = {
+    {"tree", Print::Tree},
+    {"html", Print::Html},
+    {"text", Print::Text},
+    {"none", Print::None},
+};
+
+/// An option that takes one of the words; `value` holds the default.
+template <class Value, std::size_t N>
+void addChoice(CLI::App& app, const std::string& name, const Choice<Value> (&choices)[N], Value& value,
+               const std::string& about) {
+    std::vector<std::string> names;
+    std::string defaultName;
+    for (const Choice<Value>& choice : choices) {
+        names.emplace_back(choice.name);
+        if (choice.value == value) defaultName = choice.name;
+    }
+    const auto take = [&choices, &value](const std::string& word) {
+        for (const Choice<Value>& choice : choices)
+            if (word == choice.name) value = choice.value;
+    };
+    app.add_option_function<std::string>(name, take, about)
+        ->type_name("NAME")
+        ->check(CLI::IsMember(names))
+        ->default_str(defaultName);
+}
+
+void addNote(CLI::App& app, Options& options) {
+    app.add_option("FILE", options.file, "The note, in UTF-8; standard input if it is missing or -")
+        ->type_name("");
+    addChoice(app, "--rules", ruleChoices, options.rules, "The rule set");
+}
+
+void addEdit(CLI::App& app, Options& options) {
+    addNote(app, options);
+    app.add_option("--script", options.script, "The edits, or - for standard input")
+        ->type_name("FILE")
+        ->required();
+    app.add_flag("--check", options.check, "Compare the tree with a fresh parse after every edit");
+    addChoice(app, "--print", printChoices, options.print, "What to print after the last edit");
+}
+
+void addType(CLI::App& app, Options& options) {
+    addNote(app, options);
+    app.add_flag("--check", options.check, "Compare the tree with a fresh parse after every keystroke");
+    app.add_option("--every", options.every, "Of how many paragraphs one is changed on the way back")
+        ->type_name("N")
+        ->check(CLI::Range(std::int64_t{1}, std::int64_t{1'000'000'000}).description({}))
+        ->capture_default_str();
+}
+
+struct CommandRow {
+    const char* name;
+    const char* about;
+    void (*addOptions)(CLI::App&, Options&);
+    Outcome (*run)(const Options&);
+    const char* footer;
+};
+
+constexpr CommandRow commandRows[] = {
+    {"html", "Print a note as HTML", addNote, html, R"(Example:
+  printf '# Title\n' | corvane html)"},
+    {"tree", "Print the tree of a note, one node a line", addNote, tree, R"(Example:
+  corvane tree --rules commonmark note.md)"},
+    {"edit", "Apply a script of edits and print which ranges each restyles", addEdit, edit,
+     R"(Each line of the script is one edit of the text that the line before left, in UTF-16 code units:
+  {"range":[offset,length],"text":"..."}
+Each edit is answered by one line:
+  {"redraw":[[offset,length],...]}
+
+Example:
+  echo '{"range":[0,0],"text":"# "}' | corvane edit note.md --script - --check --print tree)"},
+    {"type", "Type a note character by character and print what the keystrokes cost", addType, type,
+     R"(The note is typed into an empty one. Then, from the last paragraph to the first, a character is
+deleted and typed again in one of every N. Only the time in which the tree follows is measured.
+
+Example:
+  corvane type --every 1 note.md)"},
+};
+
+void addCommands(CLI::App& app, Options& options) {
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    app.require_subcommand(0, 1);
+    app.set_version_flag("--version", "corvane " + std::string(Ondo::version));
+    app.footer(R"(Example:
+  corvane html note.md
+
+The exit code is 1 for input that can't be taken and for a check that fails, and 2 for arguments that
+don't fit.)");
+    for (const CommandRow& row : commandRows) {
+        CLI::App* const command = app.add_subcommand(row.name, row.about);
+        command->group("Commands");
+        row.addOptions(*command, options);
+        command->footer(row.footer);
+    }
+}
+
+const CommandRow* findCommand(const std::string& name) {
+    for (const CommandRow& row : commandRows)
+        if (name == row.name) return &row;
+    return nullptr;
+}
+
+/// The library takes an unknown command for a surplus argument.
+void requireCommand(int argc, const char* const* argv) {
+    if (argc < 2) throw Failure("a command is missing; corvane --help lists them", BadUsage);
+    const std::string first = argv[1];
+    if (first.rfind('-', 0) != 0 && !findCommand(first))
+        throw Failure("there is no command " + first + "; corvane --help lists them", BadUsage);
+}
+
+/// The text that was asked for, with --help or --version; a Failure for what did not fit.
+Outcome answer(const CLI::App& app, const CLI::ParseError& error) {
+    std::ostringstream out;
+    std::ostringstream ignored;
+    if (app.exit(error, out, ignored) == 0) return {out.str()};
+    throw Failure(error.what(), BadUsage);
+}
+
+} // namespace
+
+Outcome runArguments(int argc, const char* const* argv) {
+    requireCommand(argc, argv);
+    CLI::App app("Parses Markdown notes and follows edits of them.", "corvane");
+    Options options;
+    addCommands(app, options);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return answer(app, error);
+    }
+    if (app.get_subcommands().empty())
+        throw Failure("a command is missing; corvane --help lists them", BadUsage);
+    if (options.file == "-" && options.script == "-")
+        throw Failure("FILE and --script can't both be standard input", BadUsage);
+    return findCommand(app.get_subcommands().front()->get_name())->run(options);
+}
+
+} // namespace Cli

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "Outcome.h"
+#include "corvane/tree/RuleConfig.h"
+
+namespace Cli {
+
+/// What follows the last edit of a script.
+enum class Print { None, Tree, Html, Text };
+
+/// What the command line said, with the defaults of what it left out. Files are paths; "-" is standard input.
+struct Options {
+    Ondo::RuleConfig::RuleSet rules = Ondo::RuleConfig::Extended;
+    std::string file = "-";
+    std::string script;
+    bool check = false; ///< compare with a fresh parse after every edit
+    Print print = Print::None;
+    std::int64_t every = 10; ///< from 1 on
+};
+
+/// The commands throw a Failure for input that they can't take.
+Outcome html(const Options& options);
+Outcome tree(const Options& options);
+Outcome edit(const Options& options);
+Outcome type(const Options& options);
+
+} // namespace Cli

@@ -1,0 +1,11 @@
+# Defines corvane::static, corvane::shared if it was built, and corvane::corvane,
+# which is the shared library where BUILD_SHARED_LIBS is on and the static one elsewhere.
+include("${CMAKE_CURRENT_LIST_DIR}/corvaneTargets.cmake")
+
+if(NOT TARGET corvane::corvane)
+    if(BUILD_SHARED_LIBS AND TARGET corvane::shared)
+        add_library(corvane::corvane ALIAS corvane::shared)
+    else()
+        add_library(corvane::corvane ALIAS corvane::static)
+    endif()
+endif()

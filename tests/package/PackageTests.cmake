@@ -1,0 +1,42 @@
+# Installs the build into a folder of its own and builds the project beside this file
+# against it in each way that the README offers.
+include(GNUInstallDirs)
+
+set(work ${CMAKE_CURRENT_BINARY_DIR}/package)
+set(prefix ${work}/prefix)
+
+add_test(NAME package.clean COMMAND ${CMAKE_COMMAND} -E rm -rf ${work})
+add_test(NAME package.install COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${prefix})
+set_tests_properties(package.clean PROPERTIES FIXTURES_SETUP clean_package_folder)
+set_tests_properties(
+    package.install PROPERTIES FIXTURES_REQUIRED clean_package_folder FIXTURES_SETUP installed_package)
+
+# Configures, builds and runs the consumer with the given cache variables.
+function(corvane_package_test name)
+    list(TRANSFORM ARGN PREPEND -D)
+    add_test(
+        NAME package.${name}
+        COMMAND
+            ${CMAKE_CTEST_COMMAND} --build-and-test ${CMAKE_CURRENT_SOURCE_DIR}/package ${work}/${name}
+            --build-generator ${CMAKE_GENERATOR} --build-options
+            -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} -DCORVANE_README=${PROJECT_SOURCE_DIR}/README.md
+            -DCMAKE_PREFIX_PATH=${prefix} ${ARGN} --test-command readme_example)
+    set_tests_properties(
+        package.${name}
+        PROPERTIES FIXTURES_REQUIRED installed_package
+                   TIMEOUT 900
+                   PASS_REGULAR_EXPRESSION "restyle 15 code units from 9\n<h1>Hello</h1>\n<p>some more text</p>"
+                   FAIL_REGULAR_EXPRESSION "[Ee]rror:")
+endfunction()
+
+corvane_package_test(find_package CORVANE_BY=find_package CORVANE_CHECK_HEADERS=${prefix}/${CMAKE_INSTALL_INCLUDEDIR})
+corvane_package_test(add_subdirectory CORVANE_BY=add_subdirectory CORVANE_SOURCE=${PROJECT_SOURCE_DIR})
+if(TARGET corvane_shared)
+    corvane_package_test(find_package_shared CORVANE_BY=find_package BUILD_SHARED_LIBS=ON)
+endif()
+find_package(PkgConfig QUIET)
+if(PKG_CONFIG_FOUND)
+    corvane_package_test(pkg_config CORVANE_BY=pkg_config)
+else()
+    corvane_skipped_test(package.pkg_config "needs pkg-config")
+endif()
