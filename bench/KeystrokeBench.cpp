@@ -55,17 +55,29 @@ void typeAt(benchmark::State& state, Place place) {
     report(state, microseconds);
 }
 
+/// Types in paragraphs picked at random between two offsets.
+void typeBetween(benchmark::State& state, std::int64_t (*first)(std::int64_t),
+                 std::int64_t (*last)(std::int64_t)) {
+    std::mt19937_64 random(1);
+    typeAt(state, [&](const Tree& tree) {
+        const std::int64_t from = first(tree.length());
+        const auto width = static_cast<std::uint64_t>(last(tree.length()) - from);
+        return paragraphBehind(tree, from + static_cast<std::int64_t>(random() % width));
+    });
+}
+
+/// A person at work on a page: within 4,000 code units of the middle.
 void typeInTheMiddle(benchmark::State& state) {
-    typeAt(state, [](const Tree& tree) { return paragraphBehind(tree, tree.length() / 2); });
+    typeBetween(
+        state, [](std::int64_t length) { return length / 2 - 4000; },
+        [](std::int64_t length) { return length / 2 + 4000; });
 }
 
 /// Each keystroke somewhere else: the worst that an index of blocks and a gap in the text can meet.
 void typeAnywhere(benchmark::State& state) {
-    std::mt19937_64 random(1);
-    typeAt(state, [&random](const Tree& tree) {
-        const auto limit = static_cast<std::uint64_t>(tree.length() * 9 / 10);
-        return paragraphBehind(tree, static_cast<std::int64_t>(random() % limit));
-    });
+    typeBetween(
+        state, [](std::int64_t) { return std::int64_t{0}; },
+        [](std::int64_t length) { return length * 9 / 10; });
 }
 
 /// The position of a first-level block, asked of blocks in random order.
