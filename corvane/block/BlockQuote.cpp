@@ -1,6 +1,6 @@
 #include "corvane/block/BlockQuote.h"
 
-#include "corvane/block/SavedLines.h"
+#include "corvane/block/LineChanges.h"
 #include "corvane/scan/Go.h"
 #include "corvane/tree/BlockParser.h"
 
@@ -27,44 +27,57 @@ void takePrefix(BlockParser& parser, Node* quote, std::int64_t number, std::int6
     line.setBaseIndentation(base);
 }
 
+/// The lines of a quote behind its first.
+class QuoteLines : public BlockParser::Container {
+public:
+    QuoteLines(BlockQuote& rule, BlockParser& parser, Node* quote, std::int64_t lastLine, Node* parent)
+        : rule_(rule), parser_(parser), quote_(quote), lastLine_(lastLine), parent_(parent),
+          changes_(parser.lines) {}
+
+    bool takeLine(std::int64_t line) override {
+        const Lines::Line& l = parser_.lines[line];
+        if (l.isBlank() || rule_.hasMatchingTerminatingRule(parser_, line, lastLine_, parent_)) return false;
+        const std::int64_t end = l.lazy ? Go::NoPos : prefixEnd(parser_.text, l);
+        if (end == Go::NoPos && rule_.noLazyContinuation) return false;
+        if (end == Go::NoPos) {
+            changes_.markLazy(line);
+        } else {
+            changes_.save(line);
+            takePrefix(parser_, quote_, line, end);
+        }
+        return true;
+    }
+
+    void giveBackFrom(std::int64_t line) { changes_.undoFrom(line); }
+
+private:
+    BlockQuote& rule_;
+    BlockParser& parser_;
+    Node* quote_;
+    std::int64_t lastLine_;
+    Node* parent_;
+    LineChanges changes_;
+};
+
 } // namespace
 
 std::int64_t BlockQuote::match(BlockParser& parser, std::int64_t line, std::int64_t lastLine, Node* parent,
                                ParseAction action) {
-    Lines& lines = parser.lines;
+    const Lines& lines = parser.lines;
     const std::int64_t end = prefixEnd(parser.text, lines[line]);
-    if (end == Go::NoPos || !parser.canNest()) return 0;
+    if (end == Go::NoPos || !parser.canNest(parent)) return 0;
     if (action == ParseAction::Check) return 1;
 
     auto node = std::make_unique<BlockQuoteNode>(lines[line].start, lines[line].next, line);
-    SavedLines saved(lines);
     takePrefix(parser, node.get(), line, end);
     parser.openBlock(node.get());
-    const std::int64_t last = takeLines(parser, node.get(), line, lastLine, parent, saved);
-    const std::int64_t count = parser.parseBlock(line, last, node.get());
+    QuoteLines further(*this, parser, node.get(), lastLine, parent);
+    const std::int64_t count = parser.parseBlock(line, lastLine, node.get(), &further);
+    further.giveBackFrom(line + count);
     node->charCount = lines[line + count - 1].next - node->offsetWhenParsed;
     node->lineCount = count;
-    saved.restoreFrom(line + count);
     parser.mergeNode(parent, std::move(node));
     return count;
-}
-
-/// Rewrites the lines behind the first that may belong to the quote; returns the last of them.
-std::int64_t BlockQuote::takeLines(BlockParser& parser, Node* quote, std::int64_t line, std::int64_t lastLine,
-                                   Node* parent, SavedLines& saved) {
-    std::int64_t k = line + 1;
-    for (; k <= lastLine && !parser.lines[k].isBlank(); ++k) {
-        if (hasMatchingTerminatingRule(parser, k, lastLine, parent)) break;
-        Lines::Line& l = parser.lines[k];
-        const std::int64_t end = l.lazy ? Go::NoPos : prefixEnd(parser.text, l);
-        if (end == Go::NoPos && noLazyContinuation) break;
-        saved.save(k);
-        if (end == Go::NoPos)
-            l.lazy = true;
-        else
-            takePrefix(parser, quote, k, end);
-    }
-    return k - 1;
 }
 
 void BlockQuoteNode::toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const {

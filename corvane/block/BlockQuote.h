@@ -15,10 +15,6 @@ public:
     std::string_view type_name() const override { return "BlockQuote"; }
     std::int64_t match(BlockParser& parser, std::int64_t line, std::int64_t lastLine, Node* parent,
                        ParseAction action) override;
-
-private:
-    std::int64_t takeLines(BlockParser& parser, Node* quote, std::int64_t line, std::int64_t lastLine,
-                           Node* parent, class SavedLines& saved);
 };
 
 /// One marker a prefixed line, ">" and at most one space, with the quote as its maker; it lies in the block

@@ -57,7 +57,8 @@ std::int64_t parseFencedLines(BlockParser& parser, Node* node, const Fence& fenc
     const std::int64_t indentation = lines[line].contentColumn;
     Node* content = nullptr;
     std::int64_t last = line;
-    for (std::int64_t k = line + 1; k <= lastLine && !lines[k].lazy && !lines[k].isEmptyEntry(); ++k) {
+    for (std::int64_t k = line + 1;
+         k <= lastLine && parser.hasLine(k) && !lines[k].lazy && !lines[k].isEmptyEntry(); ++k) {
         last = k;
         const std::int64_t end = closingFenceEnd(parser.text, lines[k], fence);
         if (end != Go::NoPos) {

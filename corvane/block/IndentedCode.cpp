@@ -54,7 +54,7 @@ std::int64_t IndentedCode::match(BlockParser& parser, std::int64_t line, std::in
     auto node = std::make_unique<IndentedCodeNode>(lines[line].start, lines[line].next, line);
     addLine(parser, node.get(), line);
     std::int64_t last = line;
-    for (std::int64_t k = line + 1; k <= lastLine && !lines[k].lazy; ++k) {
+    for (std::int64_t k = line + 1; k <= lastLine && parser.hasLine(k) && !lines[k].lazy; ++k) {
         if (lines[k].isBlank()) continue; // belongs only when more code follows
         if (lines[k].localIndentation() < codeIndentation) break;
         while (last < k) {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <tuple>
 
-#include "corvane/block/SavedLines.h"
+#include "corvane/block/LineChanges.h"
 #include "corvane/scan/Assert.h"
 #include "corvane/scan/Util.h"
 #include "corvane/tree/BlockParser.h"
@@ -116,6 +116,91 @@ bool List::mayInterrupt(const BlockParser& parser, std::int64_t line, const Node
     return go.isNextString(u"1.") || go.isNextString(u"1)");
 }
 
+/// The lines of an item behind its first. Whether blank lines belong is told by the text behind them.
+class List::ItemLines : public BlockParser::Container {
+public:
+    ItemLines(List& rule, BlockParser& parser, const Head& head, std::int64_t line, std::int64_t lastLine,
+              Node* parent)
+        : rule_(rule), parser_(parser), head_(head), firstLine_(line), lastLine_(lastLine), parent_(parent),
+          depth_(parser.depth()), judgedLine_(line), changes_(parser.lines) {}
+
+    bool takeLine(std::int64_t line) override {
+        if (parser_.lines[line].isBlank()) return takeBlankLine(line);
+        if (line != judgedLine_) judge(line);
+        if (verdict_ != Verdict::Indented && verdict_ != Verdict::Lazy) return false;
+        if (verdict_ == Verdict::Indented)
+            changes_.shift(line, shift_);
+        else
+            changes_.markLazy(line);
+        hasText_ = true;
+        return true;
+    }
+
+    void giveBackFrom(std::int64_t line) { changes_.undoFrom(line); }
+
+private:
+    enum class Verdict { Ends, EndsAtSibling, Indented, Lazy };
+
+    /// Blank lines between two siblings belong to the earlier one; those behind the last text do not.
+    bool takeBlankLine(std::int64_t line) {
+        if (line > judgedLine_) {
+            std::int64_t text = line + 1;
+            while (isAvailable(text) && parser_.lines[text].isBlank())
+                ++text;
+            judge(text);
+        }
+        if (verdict_ == Verdict::Ends) return false;
+        changes_.shift(line, head_.neededIndentation);
+        return true;
+    }
+
+    /// Whether the containers around the item have the line.
+    bool isAvailable(std::int64_t line) { return line <= lastLine_ && parser_.hasLine(depth_, line); }
+
+    /// Decides about the next line that is not blank; blank lines lie before it, up to the one taken last.
+    void judge(std::int64_t line) {
+        judgedLine_ = line;
+        verdict_ = isAvailable(line) ? verdictOn(line) : Verdict::Ends;
+    }
+
+    Verdict verdictOn(std::int64_t line) {
+        const Lines::Line& l = parser_.lines[line];
+        const bool isBehindBlank = line > firstLine_ + 1 && parser_.lines[line - 1].isBlank();
+        // An item can begin with at most one blank line. A line that an outer container has lost is not this
+        // item's by its indentation.
+        const bool hasEndedEmpty = head_.isEmpty && !hasText_ && isBehindBlank;
+        if (!l.lazy && !hasEndedEmpty && isIndented(l)) return Verdict::Indented;
+        const bool isTerminated = rule_.hasMatchingTerminatingRule(parser_, line, lastLine_, parent_);
+        if (!l.lazy && l.localIndentation() < codeIndentation) {
+            Go go(parser_.text, l.contentStart, l.end);
+            const MarkerType marker = matchMarker(go, rule_.markerNeedsBlank);
+            if (marker == head_.marker && !isTerminated) return Verdict::EndsAtSibling;
+            if (marker != MarkerType::none) return Verdict::Ends;
+        }
+        return isBehindBlank || isTerminated || rule_.noLazyContinuation ? Verdict::Ends : Verdict::Lazy;
+    }
+
+    bool isIndented(const Lines::Line& l) {
+        const auto tab = rule_.tabContinuesItem ? l.indentationAfterNextTab(l.baseIndentation, parser_.text)
+                                                : std::nullopt;
+        shift_ = tab ? *tab - l.baseIndentation : head_.neededIndentation;
+        return tab || l.localIndentation() >= head_.neededIndentation;
+    }
+
+    List& rule_;
+    BlockParser& parser_;
+    const Head& head_;
+    std::int64_t firstLine_;
+    std::int64_t lastLine_;
+    Node* parent_;
+    std::size_t depth_; ///< of the containers around the item
+    bool hasText_ = false;
+    std::int64_t judgedLine_; ///< the line that the verdict is on
+    Verdict verdict_ = Verdict::Ends;
+    std::int64_t shift_ = 0; ///< by how much an indented line's base moves
+    LineChanges changes_;
+};
+
 std::pair<std::int64_t, std::unique_ptr<ListItemNode>>
 List::parseListItem(BlockParser& parser, std::int64_t line, std::int64_t lastLine, Node* parent,
                     const ListItemNode* previousItem, ParseAction action) {
@@ -135,66 +220,17 @@ List::parseListItem(BlockParser& parser, std::int64_t line, std::int64_t lastLin
     l.baseIndentation = head.textColumn;
     l.followingIndentation = head.contentColumn;
 
-    SavedLines saved(parser.lines);
-    const std::int64_t last = takeLines(parser, head, line, lastLine, parent, saved);
-    const std::int64_t count = parser.parseBlock(line, last, item.get());
+    ItemLines further(*this, parser, head, line, lastLine, parent);
+    const std::int64_t count = parser.parseBlock(line, lastLine, item.get(), &further);
+    further.giveBackFrom(line + count);
     item->charCount = parser.lines[line + count - 1].next - item->offsetWhenParsed;
     item->lineCount = count;
-    saved.restoreFrom(line + count);
     return {count, std::move(item)};
-}
-
-/// Whether a marker stands on the line, less than a code block's indentation away.
-bool List::startsItem(const BlockParser& parser, std::int64_t line, MarkerType& marker) const {
-    const Lines::Line& l = parser.lines[line];
-    Go go(parser.text, l.contentStart, l.end);
-    marker = matchMarker(go, markerNeedsBlank);
-    return marker != MarkerType::none && l.localIndentation() < codeIndentation;
-}
-
-/// Rewrites the lines behind the first that may belong to the item; returns the last of them.
-std::int64_t List::takeLines(BlockParser& parser, const Head& head, std::int64_t line, std::int64_t lastLine,
-                             Node* parent, SavedLines& saved) {
-    Lines& lines = parser.lines;
-    std::int64_t last = line;
-    for (std::int64_t k = line + 1; k <= lastLine; ++k) {
-        Lines::Line& l = lines[k];
-        if (l.isBlank()) {
-            saved.save(k);
-            l.setBaseIndentation(l.baseIndentation + head.neededIndentation);
-            continue;
-        }
-        const bool isBehindBlank = k > line + 1 && lines[k - 1].isBlank();
-        // An item can begin with at most one blank line.
-        const bool hasEndedEmpty = head.isEmpty && last == line && isBehindBlank;
-        const auto tab =
-            tabContinuesItem ? l.indentationAfterNextTab(l.baseIndentation, parser.text) : std::nullopt;
-        const bool isIndented = tab || l.localIndentation() >= head.neededIndentation;
-        // A line that an outer container has lost is not this item's by its indentation.
-        if (isIndented && !l.lazy && !hasEndedEmpty) {
-            saved.save(k);
-            l.setBaseIndentation(tab ? *tab : l.baseIndentation + head.neededIndentation);
-            last = k;
-            continue;
-        }
-        const bool isTerminated = hasMatchingTerminatingRule(parser, k, lastLine, parent);
-        MarkerType marker = MarkerType::none;
-        if (!l.lazy && startsItem(parser, k, marker)) {
-            // Blank lines between two siblings belong to the earlier one.
-            if (marker == head.marker && !isTerminated) last = k - 1;
-            break;
-        }
-        if (isBehindBlank || isTerminated || noLazyContinuation) break;
-        saved.save(k);
-        l.lazy = true;
-        last = k;
-    }
-    return last;
 }
 
 std::int64_t List::match(BlockParser& parser, std::int64_t line, std::int64_t lastLine, Node* parent,
                          ParseAction action) {
-    if (!parser.canNest()) return 0;
+    if (!parser.canNest(parent)) return 0;
     auto [count, item] = parseListItem(parser, line, lastLine, parent, nullptr, action);
     if (count == 0 || action == ParseAction::Check) return count;
 
@@ -204,7 +240,8 @@ std::int64_t List::match(BlockParser& parser, std::int64_t line, std::int64_t la
     while (count != 0) {
         const ListItemNode* const previous = list->link(std::move(item));
         next += count;
-        if (next > lastLine || lines[next].lazy || hasMatchingTerminatingRule(parser, next, lastLine, parent))
+        if (next > lastLine || !parser.hasLine(next) || lines[next].lazy ||
+            hasMatchingTerminatingRule(parser, next, lastLine, parent))
             break;
         std::tie(count, item) = parseListItem(parser, next, lastLine, parent, previous, action);
     }

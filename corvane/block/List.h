@@ -52,9 +52,7 @@ private:
     bool matchHead(const BlockParser& parser, std::int64_t line, Head& head) const;
     bool mayInterrupt(const BlockParser& parser, std::int64_t line, const Node* parent,
                       const Head& head) const;
-    std::int64_t takeLines(BlockParser& parser, const Head& head, std::int64_t line, std::int64_t lastLine,
-                           Node* parent, class SavedLines& saved);
-    bool startsItem(const BlockParser& parser, std::int64_t line, MarkerType& marker) const;
+    class ItemLines;
 };
 
 class CORVANE_EXPORT ListNode : public Node {

@@ -25,7 +25,7 @@ std::int64_t Paragraph::match(BlockParser& parser, std::int64_t line, std::int64
     // Terminating rules ask whether a paragraph is open above them.
     parser.openBlock(node.get());
     std::int64_t next = line + 1;
-    for (; next <= lastLine && !lines[next].isBlank(); ++next) {
+    for (; next <= lastLine && parser.hasLine(next) && !lines[next].isBlank(); ++next) {
         if (hasMatchingTerminatingRule(parser, next, lastLine, parent)) break;
         if (lines[next].lazy) node->hasLazyLines = true;
         linkLine(parser, node.get(), next);

@@ -20,13 +20,37 @@ std::unique_ptr<Node> BlockParser::parseDocument() {
     return std::move(root_);
 }
 
-std::int64_t BlockParser::parseBlock(std::int64_t first, std::int64_t last, Node* parent) {
-    frames_.push_back({parent, nullptr});
+std::int64_t BlockParser::parseBlock(std::int64_t first, std::int64_t last, Node* parent,
+                                     Container* container) {
+    frames_.push_back({parent, container, first});
     std::int64_t line = first;
-    while (line <= last && !lines[line].isEmptyEntry() && !lines[line].lazy)
+    while (line <= last && hasLine(line) && !lines[line].isEmptyEntry() && !lines[line].lazy)
         line += parseLine(line, last, parent);
     frames_.pop_back();
     return line - first;
+}
+
+bool BlockParser::hasLine(std::size_t depth, std::int64_t line) {
+    std::size_t lacking = depth;
+    while (lacking > 0 && frames_[lacking - 1].container && frames_[lacking - 1].preparedLine < line)
+        --lacking;
+    for (; lacking < depth; ++lacking) {
+        while (frames_[lacking].preparedLine < line) {
+            const bool isEnded = frames_[lacking].isEnded ||
+                                 !frames_[lacking].container->takeLine(frames_[lacking].preparedLine + 1);
+            frames_[lacking].isEnded = isEnded;
+            if (isEnded) return false;
+            ++frames_[lacking].preparedLine;
+        }
+    }
+    return true;
+}
+
+std::size_t BlockParser::depthOf(const Node* parent) const {
+    std::size_t depth = frames_.size();
+    while (depth > 0 && frames_[depth - 1].parent != parent)
+        --depth;
+    return depth;
 }
 
 std::int64_t BlockParser::parseLine(std::int64_t line, std::int64_t last, Node* parent) {
@@ -42,7 +66,8 @@ std::int64_t BlockParser::parseLine(std::int64_t line, std::int64_t last, Node* 
 }
 
 Node* BlockParser::lastBlock(const Node* parent) const {
-    return !frames_.empty() && frames_.back().parent == parent ? frames_.back().lastBlock : nullptr;
+    const std::size_t depth = depthOf(parent);
+    return depth > 0 ? frames_[depth - 1].lastBlock : nullptr;
 }
 
 void BlockParser::openBlock(Node* node) {

@@ -12,7 +12,8 @@ namespace Ondo {
 /// The first pass: makes the tree of blocks, line by line.
 ///
 /// There is no stack of open blocks: a rule consumes whole lines to its end, and a container rule calls
-/// parseBlock() on its own lines, rewritten, with itself as parent.
+/// parseBlock() on its own lines, rewritten, with itself as parent. A container rewrites a line only when its
+/// content asks for it, so that no line is walked over by containers that end before it.
 class CORVANE_EXPORT BlockParser : public ParserBase {
 public:
     /// How deep containers nest: behind this many, a quote's or list item's marker is text. The bound keeps
@@ -22,14 +23,33 @@ public:
     BlockParser(std::u16string_view text, Lines& lines, const BlockRuleMap& blockRules,
                 const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules);
 
+    /// What a container rule does with its lines.
+    class CORVANE_EXPORT Container {
+    public:
+        virtual ~Container() = default;
+        /// Rewrites a further line for the content, or tells that the container ends before it. Called for
+        /// each line behind the first, in order, once the containers around this one have the line.
+        virtual bool takeLine(std::int64_t line) = 0;
+    };
+
     /// Parses the whole text and gives up the root.
     std::unique_ptr<Node> parseDocument();
 
-    /// Parses lines as children of `parent`; returns how many lines were consumed. Stops at the empty entry
-    /// behind the text, and at a lazy line that no open paragraph has taken.
-    std::int64_t parseBlock(std::int64_t first, std::int64_t last, Node* parent);
+    /// Parses lines as children of `parent`; returns how many lines were consumed. Stops where `container`
+    /// ends, at the empty entry behind the text, and at a lazy line that no open paragraph has taken.
+    std::int64_t parseBlock(std::int64_t first, std::int64_t last, Node* parent,
+                            Container* container = nullptr);
 
-    bool canNest() const { return frames_.size() <= maximumContainerDepth; }
+    /// Whether the innermost container under parse has the line, which may lie behind those asked for so far.
+    /// To be asked before a rule looks at any line behind its first.
+    bool hasLine(std::int64_t line) { return hasLine(depth(), line); }
+    /// The same for the container `depth` levels below the text; the text itself has all lines.
+    bool hasLine(std::size_t depth, std::int64_t line);
+
+    /// How many levels of parseBlock() are open, and how many up to that of `parent`.
+    std::size_t depth() const { return frames_.size(); }
+    std::size_t depthOf(const Node* parent) const;
+    bool canNest(const Node* parent) const { return depthOf(parent) <= maximumContainerDepth; }
 
     /// Takes a container's prefix off a line: the indentation and a marker up to `end`, behind which the line
     /// now begins. They are linked by the block that the line ends up in.
@@ -39,8 +59,7 @@ public:
     void linkPrefix(Node* node, std::int64_t line) { linkPrefix(node, line, lines[line].contentStart); }
     void linkPrefix(Node* node, std::int64_t line, std::int64_t end);
 
-    /// The block of `parent` that was merged or opened last; null when there is none. Only the innermost
-    /// parent under parse is asked.
+    /// The block of `parent` that was merged or opened last; null when there is none.
     Node* lastBlock(const Node* parent) const;
     /// Tells that `node`, not yet merged, is what now stands last below the innermost parent.
     void openBlock(Node* node);
@@ -55,7 +74,10 @@ public:
 private:
     struct Frame {
         const Node* parent;
-        Node* lastBlock; ///< merged or open
+        Container* container;
+        std::int64_t preparedLine; ///< the last line that the container has taken
+        bool isEnded = false;      ///< the container ends behind it
+        Node* lastBlock = nullptr; ///< merged or open
     };
 
     /// The prefix of one container on one line. The pieces of a line are a list from the innermost outward,
