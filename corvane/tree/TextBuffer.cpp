@@ -35,7 +35,7 @@ void TextBuffer::replace(const Range& range, std::u16string_view replacement) {
     moveGap(range.offset);
     gapLength_ += range.length;
     growGap(inserted);
-    std::copy(replacement.begin(), replacement.end(), units_.begin() + gapStart_);
+    replacement.copy(units_.data() + gapStart_, replacement.size());
     gapStart_ += inserted;
     gapLength_ -= inserted;
 }
