@@ -295,6 +295,8 @@ std::unique_ptr<Node> Node::unlinkSubtree() {
 void Node::moveAllChildrenTo(Node* node) {
     CORVANE_ASSERT(node, "Node");
     CORVANE_ASSERT(this->firstChild, "Node");
+    for (const Node* changed : {this, node})
+        if (isDocument(changed)) indexOf(changed).invalidate();
     node->firstChild = firstChild;
     node->lastChild = lastChild;
     for (Node* child = firstChild; child; child = child->nextSibling)

@@ -257,11 +257,9 @@ void Tree::addIndirectRedrawRanges(std::vector<Range>& ranges) {
 
 void Tree::replaceDeferSync(Range range, std::u16string_view replacement, bool clean) {
     if (clean) CORVANE_ASSERT(isSynced(), "Tree");
-    const std::vector<Range> redraw = replace(range, replacement);
-    if (clean)
-        syncRanges.addAndMerge(redraw, {{0, 0}, {}});
-    else
-        syncRanges.addAndMerge(redraw, {range, std::u16string(replacement)});
+    Replacement pending{{0, 0}, {}};
+    if (!clean) pending = {range, std::u16string(replacement)}; // before the edit, which it may be a view of
+    syncRanges.addAndMerge(replace(range, replacement), std::move(pending));
 }
 
 void Tree::addRedrawRange(Range range) {

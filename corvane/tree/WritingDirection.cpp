@@ -19,12 +19,15 @@ bool isOneOf(const std::uint16_t (&types)[N], const Node* node) {
     return std::find(std::begin(types), std::end(types), node->type) != std::end(types);
 }
 
-/// Whether a text below `node` counts. Attributes are transparent when a reader sees them.
+/// Whether a reader sees the text: the attribute that it lies in, if any, decides.
 bool isVisible(const Node* text) {
-    const Node* const holder = text->parent;
-    if (holder->category == Node::Category::Attribute) return isOneOf(visibleAttributes, holder);
-    return holder->type != ONDO_CODE_SPAN_NODE && holder->type != ONDO_RAW_HTML_NODE &&
-           holder->type != ONDO_MATH_SPAN_NODE;
+    const Node* holder = text->parent;
+    if (holder->type == ONDO_CODE_SPAN_NODE || holder->type == ONDO_RAW_HTML_NODE ||
+        holder->type == ONDO_MATH_SPAN_NODE)
+        return false;
+    while (holder && !holder->isBlock() && holder->category != Node::Category::Attribute)
+        holder = holder->parent;
+    return !holder || holder->category != Node::Category::Attribute || isOneOf(visibleAttributes, holder);
 }
 
 Direction directionOf(std::u16string_view text) {
