@@ -1,8 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
@@ -31,12 +31,18 @@ public:
     /// A piece to insert: mostly syntax.
     std::u16string piece() {
         switch (below(8)) {
-        case 0: return {};
-        case 1: return line();
-        case 2: return line() + lineEnding();
-        case 3: return lineEnding() + line();
-        case 4: return note(5);
-        default: return std::u16string(pick(pieces));
+        case 0:
+            return {};
+        case 1:
+            return line();
+        case 2:
+            return line() + lineEnding();
+        case 3:
+            return lineEnding() + line();
+        case 4:
+            return note(5);
+        default:
+            return std::u16string(pick(pieces));
         }
     }
 
@@ -67,19 +73,20 @@ private:
         return line;
     }
 
-    static constexpr std::u16string_view prefixes[] = {u"> ",  u">",   u"- ",    u"* ",  u"1. ",   u"2) ", u"  ",
-                                                       u"   ", u"    ", u"\t",   u" ",   u"- [ ] ", u">\t", u"-\t",
-                                                       u"10. ", u"-  ", u"> > ", u"      "};
+    static constexpr std::u16string_view prefixes[] = {u"> ",  u">",   u"- ",   u"* ",  u"1. ",  u"2) ",
+                                                       u"  ",  u"   ", u"    ", u"\t",  u" ",    u"- [ ] ",
+                                                       u">\t", u"-\t", u"10. ", u"-  ", u"> > ", u"      "};
     static constexpr std::u16string_view contents[] = {
-        u"",      u"",         u"",        u"a",       u"text",     u"# h",     u"## h ##", u"===",     u"---",
-        u"--",    u"-",        u"=",       u"***",     u"```",      u"````",    u"~~~",     u"``` x",   u"$$",
-        u"$$$",   u"2. x",     u"1. x",    u"- b",     u"+",        u"<div>",   u"</div>",  u"<!--",    u"-->",
-        u"<pre>", u"</pre>",   u"[!NOTE]", u"[!tip] t", u"| a |",   u"|---|",   u"[a]: b",  u"'t",      u"[^a]: b",
-        u"...",   u"\u05D0\u05D1", u"12",  u"\u5B57",  u"\U0001F534", u"\\",    u"x  y",    u"[ ] t",   u"\u0627 b"};
+        u"",           u"",       u"",     u"a",       u"text",    u"# h",          u"## h ##",  u"===",
+        u"---",        u"--",     u"-",    u"=",       u"***",     u"```",          u"````",     u"~~~",
+        u"``` x",      u"$$",     u"$$$",  u"2. x",    u"1. x",    u"- b",          u"+",        u"<div>",
+        u"</div>",     u"<!--",   u"-->",  u"<pre>",   u"</pre>",  u"[!NOTE]",      u"[!tip] t", u"| a |",
+        u"|---|",      u"[a]: b", u"'t",   u"[^a]: b", u"...",     u"\u05D0\u05D1", u"12",       u"\u5B57",
+        u"\U0001F534", u"\\",     u"x  y", u"[ ] t",   u"\u0627 b"};
     static constexpr std::u16string_view pieces[] = {
-        u"a", u"x",  u" ",  u"\n", u"\n\n", u"\r", u"\r\n", u"\t", u"    ", u"- ", u"-",  u"> ",  u">",
-        u"#", u"# ", u"`",  u"``", u"```",  u"~",  u"$",    u"$$", u"=",    u"*",  u"1.", u"1. ", u"<div>",
-        u"<", u"|",  u"[",  u"+ ", u"\u05D0", u"2", u"_",   u"[!NOTE]",     u"[ ] "};
+        u"a",   u"x",     u" ",  u"\n", u"\n\n", u"\r",  u"\r\n",   u"\t", u"    ", u"- ",      u"-",   u"> ",
+        u">",   u"#",     u"# ", u"`",  u"``",   u"```", u"~",      u"$",  u"$$",   u"=",       u"*",   u"1.",
+        u"1. ", u"<div>", u"<",  u"|",  u"[",    u"+ ",  u"\u05D0", u"2",  u"_",    u"[!NOTE]", u"[ ] "};
 
     std::mt19937_64 random_;
 };
