@@ -25,8 +25,8 @@ public:
     static std::u16string attributeString(std::u16string_view view, const Node* attribute);
     /// Tells all rules that the range is taken by a construct with an opaque interior.
     void claimRange(std::int64_t start, std::int64_t end);
-    /// Fills the gaps between the children of `node`, at all depths.
-    static void addTextNodes(Node* node);
+    /// Fills the gaps between the children of `top`, at all depths.
+    static void addTextNodes(Node* top);
 
 private:
     void parseInlineBlocks(Node* blockNode);

@@ -259,7 +259,7 @@ public:
     void beginningOfLine();
     void endOfLine();
     /// Forward to `offset + deltaOffset`. Asserts `deltaOffset >= 0`.
-    void nextByOffset(std::int64_t deltaOffset, LevelSetting level);
+    void nextByOffset(std::int64_t deltaOffset, LevelSetting setting);
 
     Iterator properClone() const { return *this; }
     bool isBeforeOrEqual(const Iterator& other) const;

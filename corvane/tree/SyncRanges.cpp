@@ -25,7 +25,7 @@ void SyncRanges::adjustReplacement(Replacement& replacement, const Range& redraw
 }
 
 void SyncRanges::add(const std::vector<Range>& newRanges, Replacement replacement) {
-    CORVANE_ASSERT(newRanges.size() > 0, "SyncRanges");
+    CORVANE_ASSERT(newRanges.size() > 0, "SyncRanges"); // NOLINT(readability-container-size-empty)
     adjustReplacement(replacement, newRanges.front());
     replacements.push_back(std::move(replacement));
     const Replacement& added = replacements.back();
