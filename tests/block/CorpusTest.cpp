@@ -68,6 +68,16 @@ TEST_P(Corpus, LineEndingsOfAnyKind) {
     });
 }
 
+TEST_P(Corpus, LastLineNeedsNoEnding) {
+    forEachCase([](const CorpusCase& c, RuleConfig::RuleSet set) {
+        const std::u16string_view text = c.text;
+        if (!text.ends_with(u'\n') || text.ends_with(u"\n\n") || text.ends_with(u"\r\n")) return;
+        std::string tree = indentedTree(text, set);
+        tree.erase(tree.rfind('\n', tree.size() - 2) + 1);
+        EXPECT_EQ(indentedTree(text.substr(0, text.size() - 1), set), tree);
+    });
+}
+
 std::string nameOfFile(const testing::TestParamInfo<std::filesystem::path>& file) {
     return file.param.stem().string();
 }

@@ -30,6 +30,7 @@ TEST(Callout, HeadTypeAndTitle) {
         {u">[!Caution]\tx", CalloutTypes::Caution, u"x"},
         {u"> [!note]", CalloutTypes::Note, u""},
         {u"> [!note] \t\n> b", CalloutTypes::Note, u""},
+        {u">    [!TIP] a", CalloutTypes::Tip, u"a"},
         {u"> > [!TIP] a", CalloutTypes::Tip, u"a"},
         {u"- > [!IMPORTANT] [!TIP]", CalloutTypes::Important, u"[!TIP]"},
         {u"> [!TIP]x", std::nullopt, u""},
@@ -121,14 +122,15 @@ TEST(List, TheTreeTellsAMarker) {
 }
 
 /// A block with a first marker and no next one is open.
-TEST(Fence, TellsByItsMarkersWhetherItIsClosed) {
+TEST(Fence, MarkersAndContent) {
     const struct {
         const char16_t* text;
         bool isClosed;
+        std::int64_t contentLines; ///< with their endings; -1 without content
     } cases[] = {
-        {u"~~~\na\n~~~", true},       {u"~~~", false},           {u"~~~\na\n~~", false},
-        {u"> ~~~\n> ~~~\n> a", true}, {u"> ~~~\n> a\nb", false}, {u"- ~~~\n\n  ~~~\n- a", true},
-        {u"- ~~~\n\n- ~~~", false},
+        {u"~~~\na\n~~~", true, 1},        {u"~~~", false, -1},          {u"~~~\na\n~~", false, 1},
+        {u"> ~~~\n> ~~~\n> a", true, -1}, {u"> ~~~\n> a\nb", false, 1}, {u"- ~~~\n\n\n  ~~~\n- a", true, 2},
+        {u"- ~~~\n  a\n- ~~~", false, 1},
     };
     for (const auto& c : cases) {
         const Tree tree(c.text, RuleConfig::Extended);
@@ -136,6 +138,8 @@ TEST(Fence, TellsByItsMarkersWhetherItIsClosed) {
         ASSERT_TRUE(fence->firstMarker()) << visible(c.text);
         EXPECT_EQ(fence->firstMarker()->type, ONDO_FENCED_CODE_OPEN_MARKER_NODE);
         EXPECT_EQ(fence->firstMarker()->nextMarker() != nullptr, c.isClosed) << visible(c.text);
+        const Node* const content = fence->firstAttribute();
+        EXPECT_EQ(content ? content->lineCount : -1, c.contentLines) << visible(c.text);
     }
 }
 

@@ -48,6 +48,12 @@ TEST(Lines, OfATextAreTabulated) {
         EXPECT_EQ(tableOf(c.text), c.expected) << testing::PrintToString(std::u16string(c.text));
 }
 
+TEST(Lines, AViewEndsWhereItEnds) {
+    const Lines lines(std::u16string_view(u"a\r\nb").substr(0, 2));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[0].next, 2) << "the LF is out of sight";
+}
+
 TEST(Lines, EndsAreFoundAtAnyDistance) {
     for (const char16_t filler : {u'a', u'\t', u'\x0E', u'\x0C', u'\u0A0D', u'\u8000', u'\uFFFF'}) {
         for (const std::u16string ending : {u"\n", u"\r", u"\r\n"}) {

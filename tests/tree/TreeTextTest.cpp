@@ -32,6 +32,12 @@ TEST(TreeText, Html) {
     EXPECT_EQ(html(u"\n  \n", C), "");
     // Blanks around a line leave no trace, nor does the line ending at the edge.
     EXPECT_EQ(html(u"  a  \r\n b \rc\n\n\n\"&<>'", C), "<p>a\nb\nc</p>\n<p>&quot;&amp;&lt;&gt;'</p>\n");
+    const auto lines = makeTree("p0-3");
+    for (const int offset : {0, 1, 2})
+        lines->linkSubtree(std::make_unique<Inline::LineEndingNode>(offset, offset + 1, 0));
+    std::u16string out;
+    lines->childrenToHtml(out, u"\r\r\r", 0);
+    EXPECT_EQ(out, u"\n");
     Tree tree(u"a\n\n> b & c\n", C);
     tree.replace({0, 1}, u"longer");
     EXPECT_EQ(Util::utf8(Util::toHtml(tree.root->lastChild->lastChild, tree.markdown())),
@@ -47,16 +53,15 @@ TEST(TreeText, TextFillsGapsAtAllDepths) {
 
 /// Blanks belong to the value of an attribute directly before a line ending.
 TEST(TreeText, TheValueOfAnAttribute) {
-    const auto link = makeTree("p0-11");
-    Inline::AttributeNode attribute(ONDO_LINK_TEXT_ATTRIBUTE_NODE, 0, 11, 4, 1, link.get());
-    for (const auto& [start, end] : {std::pair(0, 2), {4, 6}, {7, 8}})
-        attribute.linkSubtree(std::make_unique<Inline::SpaceNode>(start, end, 4));
-    attribute.linkSubtree(std::make_unique<Inline::LineEndingNode>(6, 7, 4), attribute.lastChild);
-    attribute.lastChild->lineWhenParsed = 5;
+    const auto link = makeTree("p0-10");
+    Inline::AttributeNode attribute(ONDO_LINK_TEXT_ATTRIBUTE_NODE, 0, 10, 4, 1, link.get());
+    attribute.linkSubtree(std::make_unique<Inline::SpaceNode>(0, 2, 4));
+    attribute.linkSubtree(std::make_unique<Inline::SpaceNode>(4, 6, 4));
+    attribute.linkSubtree(std::make_unique<Inline::LineEndingNode>(6, 7, 4));
     InlineParserNode::addTextNodes(&attribute);
-    EXPECT_EQ(notation(&attribute), "a0-11(s0-2 t2-4 s4-6 n6-7 s7-8 t8-11)");
+    EXPECT_EQ(notation(&attribute), "a0-10(s0-2 t2-4 s4-6 n6-7 t7-10)");
     EXPECT_EQ(attribute.lastChild->lineWhenParsed, 5);
-    EXPECT_EQ(Util::utf8(InlineParserNode::attributeString(u"  ab  \n c d", &attribute)), "ab  \nc d");
+    EXPECT_EQ(Util::utf8(InlineParserNode::attributeString(u"  ab  \nc d", &attribute)), "ab  \nc d");
 }
 
 } // namespace
