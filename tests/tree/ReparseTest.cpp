@@ -263,7 +263,7 @@ std::string plainOutcome(const Tree& tree, const Range& range, const std::u16str
 TEST(Reparse, WherePlainStepsAreEnoughTheyAreFollowedExactly) {
     int count = 0;
     int notEnough = 0;
-    for (std::uint64_t seed = 0; seed < 400; ++seed) {
+    for (std::uint64_t seed = 0; seed < 300; ++seed) {
         RandomNote random(seed);
         Tree tree(random.note(14), allRuleSets[seed % 3]);
         for (int edit = 0; edit < 8 && tree.root->firstChild; ++edit, ++count) {
