@@ -11,6 +11,12 @@ GoLines::GoLines(std::u16string_view view, const Lines& lines, std::int64_t firs
     enterLine(firstLine);
 }
 
+GoLines::GoLines(std::u16string_view view, const Lines& lines, std::int64_t firstLine, std::int64_t lastLine,
+                 LineSource& source)
+    : GoLines(view, lines, firstLine, lastLine) {
+    source_ = &source;
+}
+
 void GoLines::enterLine(std::int64_t line) {
     currentLine_ = line;
     minPos_ = std::max((*lines_)[line].contentStart, minOffset_);

@@ -5,6 +5,15 @@
 
 namespace Ondo {
 
+/// Tells whether a table's lines may be read, which a container rewrites only when they are asked for.
+class CORVANE_EXPORT LineSource {
+public:
+    virtual bool hasLine(std::int64_t line) = 0;
+
+protected:
+    ~LineSource() = default;
+};
+
 /// A Go that sees only the content of a run of lines: container prefixes, indentation, trailing blanks and
 /// line endings are not there for it.
 ///
@@ -15,6 +24,9 @@ public:
     /// Starts on `firstLine`. `minOffset` and `maxOffset` clip the whole; NoPos means no limit.
     GoLines(std::u16string_view view, const Lines& lines, std::int64_t firstLine, std::int64_t lastLine,
             std::int64_t minOffset = NoPos, std::int64_t maxOffset = NoPos);
+    /// Crosses only into lines that `source`, which must outlive the cursor, has.
+    GoLines(std::u16string_view view, const Lines& lines, std::int64_t firstLine, std::int64_t lastLine,
+            LineSource& source);
 
     std::int64_t currentLine() const { return currentLine_; }
     std::int64_t lastLine() const { return lastLine_; }
@@ -28,9 +40,13 @@ public:
 
 private:
     void enterLine(std::int64_t line);
-    bool hasFurtherLine() const { return currentLine_ < lastLine_ && maxPos_ != maxOffset_; }
+    bool hasFurtherLine() const {
+        return currentLine_ < lastLine_ && maxPos_ != maxOffset_ &&
+               (!source_ || source_->hasLine(currentLine_ + 1));
+    }
 
     const Lines* lines_;
+    LineSource* source_ = nullptr;
     std::int64_t currentLine_ = 0;
     std::int64_t firstLine_;
     std::int64_t lastLine_;
