@@ -1,16 +1,33 @@
 #pragma once
 
+#include <cstddef>
+
 #include "corvane/tree/Node.h"
 
 /// The nodes that all rules share.
 
 namespace Ondo {
 
+struct LabelGroup;
+
+/// Where a labelled node stands in its index: bookkeeping of LabeledConnections.
+struct LabelPlace {
+    static constexpr std::size_t merged = static_cast<std::size_t>(-1);
+
+    LabelGroup* group = nullptr;      ///< null for a node in no index
+    bool isDefinition = false;        ///< or a reference
+    std::size_t inGroup = 0;          ///< place among the nodes of its side and label
+    std::size_t inJustAdded = merged; ///< place among the nodes that wait to be merged
+};
+
 /// A node that is found by its label: a definition or a reference.
 class CORVANE_EXPORT LabeledNode : public Node {
 public:
-    std::u16string label;         ///< normalised
-    std::int64_t connections = 0; ///< nodes of the other side with the same label
+    std::u16string label; ///< normalised
+    LabelPlace place;
+
+    /// Nodes of the other side with the same label; 0 for a node in no index.
+    std::int64_t connections() const;
 
     LabeledNode(NodeType type, std::int64_t offset, std::int64_t end, std::int64_t line,
                 std::int64_t lineCount, Node* maker, std::u16string label);
