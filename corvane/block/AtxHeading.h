@@ -19,7 +19,8 @@ public:
 
 class CORVANE_EXPORT AtxHeadingNode : public Node {
 public:
-    std::int64_t level; ///< 1 to 6
+    std::int64_t level;      ///< 1 to 6
+    bool isFoldable = false; ///< there is something to fold below it; kept current by the folding rule
 
     AtxHeadingNode(std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t level_)
         : Node(ONDO_ATX_HEADING_NODE, offset, end, line, 1), level(level_) {}
