@@ -3,9 +3,11 @@
 set(CORVANE_PUBLIC_HEADERS
     Version.h
     scan/Assert.h
+    scan/Escape.h
     scan/Export.h
     scan/Go.h
     scan/GoLines.h
+    scan/HtmlSyntax.h
     scan/Lines.h
     scan/Predicate.h
     scan/Unicode.h
@@ -18,8 +20,10 @@ set(CORVANE_PUBLIC_HEADERS
     tree/InlineParser.h
     tree/InlineRule.h
     tree/LabeledConnections.h
+    tree/LinkSyntax.h
     tree/Node.h
     tree/NodeArena.h
+    tree/NodeIterator.h
     tree/NodeType.h
     tree/NodeTypes.def
     tree/Parser.h
@@ -40,9 +44,39 @@ set(CORVANE_PUBLIC_HEADERS
     block/BlockQuote.h
     block/Callout.h
     block/FencedCode.h
+    block/FootnoteDefinition.h
+    block/HtmlBlock.h
     block/IndentedCode.h
+    block/LinkReferenceDefinition.h
     block/List.h
     block/MathBlock.h
     block/Paragraph.h
     block/SetextHeading.h
-    block/ThematicBreak.h)
+    block/Table.h
+    block/ThematicBreak.h
+    block/Yaml.h
+    inline/AddressSyntax.h
+    inline/Autolink.h
+    inline/BackslashEscape.h
+    inline/CodeSpan.h
+    inline/Color.h
+    inline/Email.h
+    inline/EmphaseStrong.h
+    inline/EmphaseStrongBase.h
+    inline/Entity.h
+    inline/FoldMarker.h
+    inline/Folding.h
+    inline/FootnoteReference.h
+    inline/HardLineBreak.h
+    inline/Hashtag.h
+    inline/Highlight.h
+    inline/Image.h
+    inline/Link.h
+    inline/LinkBase.h
+    inline/MathSpan.h
+    inline/RawHtml.h
+    inline/Replace.h
+    inline/Segments.h
+    inline/UnderlineStrikethrough.h
+    inline/Url.h
+    inline/Wikilink.h)

@@ -7,8 +7,9 @@
 namespace Ondo {
 
 BlockParser::BlockParser(std::u16string_view text_, Lines& lines_, const BlockRuleMap& blockRules,
-                         const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules)
-    : ParserBase(text_, lines_), blockRules_(blockRules),
+                         const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules,
+                         bool isDocumentHead)
+    : ParserBase(text_, lines_), blockRules_(blockRules), isDocumentHead_(isDocumentHead),
       inlineParser_(text_, lines_, inlineRules, attributeRules) {
     const bool endsInEmptyEntry = lines[lines.size() - 1].isEmptyEntry();
     root_ = std::make_unique<DocumentNode>(0, static_cast<std::int64_t>(text.size()),
@@ -18,6 +19,10 @@ BlockParser::BlockParser(std::u16string_view text_, Lines& lines_, const BlockRu
 std::unique_ptr<Node> BlockParser::parseDocument() {
     parseBlock(0, lines.size() - 1, root_.get());
     return std::move(root_);
+}
+
+void BlockParser::noteLookBehindEnd() {
+    static_cast<DocumentNode*>(root_.get())->looksBehindEnd = true;
 }
 
 std::int64_t BlockParser::parseBlock(std::int64_t first, std::int64_t last, Node* parent,
@@ -102,6 +107,24 @@ void BlockParser::linkPrefix(Node* node, std::int64_t line, std::int64_t end) {
         linkMarker(node, piece.type, piece.markerStart, piece.end, line, piece.maker);
     }
     linkSpace(node, lines[line].leading, end, line);
+}
+
+void BlockParser::linkSpacing(Node* node, std::int64_t from, std::int64_t fromLine, std::int64_t to,
+                              std::int64_t toLine) {
+    if (fromLine == toLine) {
+        linkSpace(node, from, to, fromLine);
+        return;
+    }
+    linkSpace(node, from, lines[fromLine].contentEnd, fromLine);
+    linkCrossedLines(node, fromLine, toLine);
+}
+
+void BlockParser::linkCrossedLines(Node* node, std::int64_t first, std::int64_t last) {
+    for (std::int64_t line = first; line < last; ++line) {
+        linkSpace(node, lines[line].contentEnd, lines[line].end, line);
+        linkLineEnding(node, lines[line].end, lines[line].next, line);
+        linkPrefix(node, line + 1);
+    }
 }
 
 } // namespace Ondo

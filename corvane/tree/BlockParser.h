@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "corvane/scan/GoLines.h"
 #include "corvane/tree/BlockRule.h"
 #include "corvane/tree/DocumentNode.h"
 #include "corvane/tree/InlineParser.h"
@@ -14,14 +15,21 @@ namespace Ondo {
 /// There is no stack of open blocks: a rule consumes whole lines to its end, and a container rule calls
 /// parseBlock() on its own lines, rewritten, with itself as parent. A container rewrites a line only when its
 /// content asks for it, so that no line is walked over by containers that end before it.
-class CORVANE_EXPORT BlockParser : public ParserBase {
+class CORVANE_EXPORT BlockParser : public ParserBase, public LineSource {
 public:
     /// How deep containers nest: behind this many, a quote's or list item's marker is text. The bound keeps
     /// hostile input from exhausting the stack.
     static constexpr std::size_t maximumContainerDepth = 256;
 
     BlockParser(std::u16string_view text, Lines& lines, const BlockRuleMap& blockRules,
-                const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules);
+                const InlineRuleMap& inlineRules, const InlineRuleMap& attributeRules,
+                bool isDocumentHead = true);
+
+    /// Whether the text is the document's head, not a part from further on.
+    bool isDocumentHead() const { return isDocumentHead_; }
+
+    /// A rule found the end of the text where it wanted more lines.
+    void noteLookBehindEnd();
 
     /// What a container rule does with its lines.
     class CORVANE_EXPORT Container {
@@ -42,7 +50,7 @@ public:
 
     /// Whether the innermost container under parse has the line, which may lie behind those asked for so far.
     /// To be asked before a rule looks at any line behind its first.
-    bool hasLine(std::int64_t line) { return hasLine(depth(), line); }
+    bool hasLine(std::int64_t line) override { return hasLine(depth(), line); }
     /// The same for the container `depth` levels below the text; the text itself has all lines.
     bool hasLine(std::size_t depth, std::int64_t line);
 
@@ -58,6 +66,13 @@ public:
     /// `leading` to `contentStart`, or to `end`.
     void linkPrefix(Node* node, std::int64_t line) { linkPrefix(node, line, lines[line].contentStart); }
     void linkPrefix(Node* node, std::int64_t line, std::int64_t end);
+
+    /// Links what stands between `from` on one line and `to` on the same or a later one, where nothing but
+    /// blanks, line endings and prefixes of containers lies between.
+    void linkSpacing(Node* node, std::int64_t from, std::int64_t fromLine, std::int64_t to,
+                     std::int64_t toLine);
+    /// Links the ends and the prefixes of the lines that a span from `first` to `last` crosses.
+    void linkCrossedLines(Node* node, std::int64_t first, std::int64_t last);
 
     /// The block of `parent` that was merged or opened last; null when there is none.
     Node* lastBlock(const Node* parent) const;
@@ -94,6 +109,7 @@ private:
     std::int64_t parseLine(std::int64_t line, std::int64_t last, Node* parent);
 
     const BlockRuleMap& blockRules_;
+    bool isDocumentHead_;
     InlineParserNode inlineParser_;
     std::unique_ptr<Node> root_;
     std::vector<Frame> frames_;

@@ -13,6 +13,10 @@ public:
 
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
 
+    /// A rule would have taken in lines behind the text, had there been any: what follows a part of a
+    /// document can change how it is parsed.
+    bool looksBehindEnd = false;
+
     /// A cache: it changes with questions about a tree that does not change.
     mutable FirstLevelIndex index{this};
 };

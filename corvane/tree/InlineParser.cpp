@@ -20,7 +20,7 @@ GoLines contentCursor(const Node* node, std::u16string_view text, const Lines& l
 std::int64_t lineBehind(Node* previous, const Node* node) {
     if (!previous) return node->lineWhenParsed;
     const Node* const last = previous->lastNodeOfSubtree();
-    return last->lineWhenParsed + (last->name == nodeName(ONDO_LINE_ENDING_NODE) ? 1 : 0);
+    return last->lineWhenParsed + (last->category == Node::Category::LineEnding ? 1 : 0);
 }
 
 void fillGap(Node* node, Node* next, std::int64_t from, std::int64_t to) {
@@ -52,13 +52,11 @@ void InlineParserNode::parseInlineBlocks(Node* blockNode) {
 }
 
 void InlineParserNode::parseNode(Node* node, const InlineRuleMap& rules) {
-    if (rules.getAllInlineRules().empty()) return;
+    Node* const outerMerged = std::exchange(merged_, nullptr);
     for (const auto& rule : rules.getAllInlineRules())
         rule->beforeParseNode(*this);
     GoLines cursor = contentCursor(node, text, lines);
-    const auto opensNothing = [&rules](char32_t c) {
-        return rules.getInlineRules(static_cast<char16_t>(c)).empty();
-    };
+    const auto opensNothing = [&rules](char32_t c) { return rules.isUnused(static_cast<char16_t>(c)); };
     while (!cursor.hasFailed()) {
         if (cursor.pos() == cursor.maxPos()) {
             offerLineEnding(node, cursor, rules);
@@ -70,6 +68,23 @@ void InlineParserNode::parseNode(Node* node, const InlineRuleMap& rules) {
     }
     for (const auto& rule : rules.getAllInlineRules())
         rule->afterParseNode(*this, node);
+    merged_ = outerMerged;
+}
+
+Node* InlineParserNode::mergeInline(Node* node, std::unique_ptr<Node> subtree) {
+    Node* passed = merged_;
+    while (passed && passed->endWhenParsed() > subtree->offsetWhenParsed)
+        passed = passed->previousSibling;
+    Node* const merged = node->mergeSubtreeOnParsedOffsets(std::move(subtree), passed);
+    if (merged && merged->parent == node) merged_ = merged;
+    return merged;
+}
+
+Node* InlineParserNode::childAt(const Node* node, std::int64_t offset) const {
+    Node* child = merged_ && merged_->offsetWhenParsed <= offset ? merged_ : node->firstChild;
+    while (child && child->endWhenParsed() <= offset)
+        child = child->nextSibling;
+    return child && child->offsetWhenParsed <= offset ? child : nullptr;
 }
 
 bool InlineParserNode::matchRules(Node* node, GoLines& cursor, const InlineRuleMap& rules) {

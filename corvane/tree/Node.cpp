@@ -16,32 +16,15 @@ constexpr const char16_t* names[nodeTypeCount] = {
 #undef X
 };
 
-constexpr Node::Category categories[nodeTypeCount] = {
-#define X(number, enumerator, name, class, category) Node::Category::category,
-#include "corvane/tree/NodeTypes.def"
-#undef X
-};
-
 /// The names of types that share one are one string, whether or not the linker merges equal literals.
 constexpr const char16_t* sharedName(std::uint16_t type) {
-    if (categories[type] == Node::Category::Marker && type != ONDO_FOLD_MARKER_NODE)
+    if (nodeCategories[type] == Node::Category::Marker && type != ONDO_FOLD_MARKER_NODE)
         return names[ONDO_ATX_HEADING_OPEN_MARKER_NODE];
-    if (categories[type] == Node::Category::Attribute) return names[ONDO_FENCED_CODE_INFO_ATTRIBUTE_NODE];
+    if (nodeCategories[type] == Node::Category::Attribute) return names[ONDO_FENCED_CODE_INFO_ATTRIBUTE_NODE];
     return names[type];
 }
 
-constexpr std::uint16_t codeTypes[] = {ONDO_FENCED_CODE_NODE, ONDO_HTML_BLOCK_NODE, ONDO_INDENTED_CODE_NODE,
-                                       ONDO_YAML_NODE,        ONDO_CODE_SPAN_NODE,  ONDO_RAW_HTML_NODE,
-                                       ONDO_MATH_SPAN_NODE,   ONDO_MATH_BLOCK_NODE};
-
-struct CodeTable {
-    bool isCode[nodeTypeCount] = {};
-    constexpr CodeTable() {
-        for (const std::uint16_t type : codeTypes)
-            isCode[type] = true;
-    }
-};
-constexpr CodeTable codeTable;
+constexpr std::size_t heapOffset = 8;
 
 FirstLevelIndex& indexOf(const Node* document) {
     return static_cast<const DocumentNode*>(document)->index;
@@ -70,37 +53,20 @@ const char16_t* nodeName(std::uint16_t type) {
     return sharedName(type);
 }
 
-Node::Category nodeCategory(std::uint16_t type) {
-    return categories[type];
-}
-
-Node::Node(std::uint16_t type_, const char16_t* name_, Category category_, std::int64_t offset,
-           std::int64_t end, std::int64_t line, std::int64_t lineCount_, Node* maker_)
-    : type(type_), category(category_), name(name_), offsetWhenParsed(offset), charCount(end - offset),
-      lineWhenParsed(line), lineCount(lineCount_), maker(maker_), isFromArena(NodeArena::isActive()) {
-    CORVANE_ASSERT(offsetWhenParsed >= 0, "Node");
-    CORVANE_ASSERT(charCount >= 0, "Node");
-    CORVANE_ASSERT(lineWhenParsed >= 0, "Node");
-    CORVANE_ASSERT(lineCount >= 0, "Node");
-    if (isCode()) direction = Direction::LeftToRight;
-    ++instanceCount;
-}
-
-Node::Node(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t lineCount_,
-           Node* maker_)
-    : Node(type_, sharedName(type_), categories[type_], offset, end, line, lineCount_, maker_) {}
-
+/// Slots of an arena lie at multiples of 16; what lies 8 behind one is the heap's. So a node need not say
+/// where its memory goes back to.
 void* Node::operator new(std::size_t size) {
-    return NodeArena::isActive() ? NodeArena::allocate(size) : ::operator new(size);
+    if (void* const slot = NodeArena::allocate(size)) return slot;
+    return static_cast<std::byte*>(::operator new(size + heapOffset)) + heapOffset;
 }
 
 void Node::operator delete(Node* node, std::destroying_delete_t) {
-    const bool isFromArena = node->isFromArena;
     node->~Node();
-    if (isFromArena)
-        NodeArena::free(node);
+    auto* const memory = reinterpret_cast<std::byte*>(node);
+    if (reinterpret_cast<std::uintptr_t>(memory) % NodeArena::granularity == 0)
+        NodeArena::free(memory);
     else
-        ::operator delete(node);
+        ::operator delete(memory - heapOffset);
 }
 
 Node::~Node() {
@@ -118,12 +84,8 @@ Node::~Node() {
     --instanceCount;
 }
 
-bool Node::isCode() const {
-    return codeTable.isCode[type];
-}
-
 std::u16string Node::toIndentedTree() const {
-    std::u16string out = name;
+    std::u16string out = name();
     if (folded) out += u"{folded}";
     return out;
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "corvane/scan/Assert.h"
 #include "corvane/scan/Export.h"
 #include "corvane/tree/NodeType.h"
 
@@ -16,7 +17,7 @@ namespace Ondo {
 enum class LevelSetting { Highest, Leaf, FirstLevel };
 
 /// The writing direction of a block; the inherited ones come from the text before it.
-enum class Direction : std::uint32_t {
+enum class Direction : std::uint8_t {
     None,
     LeftToRight,
     RightToLeft,
@@ -34,29 +35,18 @@ enum class Direction : std::uint32_t {
 /// the first-level blocks that the edit left alone.
 class CORVANE_EXPORT Node {
 public:
-    /// In an order that is relied on: blocks up to InlineBlock, leaves of the tree from Marker on.
-    enum class Category : std::uint32_t {
-        Document,
-        ContainerBlock, ///< holds blocks
-        LeafBlock,      ///< has no inline parsing of its own
-        InlineBlock,    ///< its content is parsed for inlines
-        Inline,
-        Attribute, ///< a run of text that carries a value of its construct
-        Marker,    ///< syntax characters
-        Space,
-        LineEnding,
-        Text
-    };
-
+    using Category = NodeCategory;
     class Iterator;
 
     /// Nodes alive in the process, for finding leaks. Not atomic: trees that are built at the same time on
     /// different threads miscount.
     static std::int64_t instanceCount;
 
-    std::uint16_t type;
-    Category category;
-    const char16_t* name; ///< static, shared by all nodes of a type
+    const std::uint16_t type;
+    const Category category;
+    Direction direction;
+    bool folded = false;
+    bool startsIndexRun = false; ///< bookkeeping of FirstLevelIndex
     /// Absolute offset at the time of the parse. Means something only during that parse and among nodes of
     /// it.
     std::int64_t offsetWhenParsed;
@@ -69,23 +59,29 @@ public:
     Node* previousSibling = nullptr;
     Node* nextSibling = nullptr;
     Node* maker; ///< of a marker or attribute: its construct, which need not be the parent. Not owned.
-    Direction direction = Direction::None;
-    bool folded = false;
-    bool startsIndexRun = false; ///< bookkeeping of FirstLevelIndex
-    const bool isFromArena;      ///< where the memory goes back to
 
-    /// Asserts that offset, length, line and line count are not negative.
-    Node(std::uint16_t type, const char16_t* name, Category category, std::int64_t offset, std::int64_t end,
-         std::int64_t line, std::int64_t lineCount, Node* maker);
-    /// With the name and category that the table of types gives.
-    Node(NodeType type, std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t lineCount,
-         Node* maker = nullptr);
+    /// With the category that the table of types gives. Asserts that offset, length, line and line count are
+    /// not negative.
+    Node(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line, std::int64_t lineCount_,
+         Node* maker_ = nullptr)
+        : type(type_), category(nodeCategory(type_)),
+          direction(isCodeType(type_) ? Direction::LeftToRight : Direction::None), offsetWhenParsed(offset),
+          charCount(end - offset), lineWhenParsed(line), lineCount(lineCount_), maker(maker_) {
+        CORVANE_ASSERT(offsetWhenParsed >= 0, "Node");
+        CORVANE_ASSERT(charCount >= 0, "Node");
+        CORVANE_ASSERT(lineWhenParsed >= 0, "Node");
+        CORVANE_ASSERT(lineCount >= 0, "Node");
+        ++instanceCount;
+    }
     /// Deletes the subtree, without recursion.
     virtual ~Node();
     static void* operator new(std::size_t size);
     static void operator delete(Node* node, std::destroying_delete_t);
     Node(const Node&) = delete;
     Node& operator=(const Node&) = delete;
+
+    /// The name of the node's type, static and NUL-terminated.
+    const char16_t* name() const { return nodeName(type); }
 
     /// The node's line of the indented tree: its name, and what the class adds.
     virtual std::u16string toIndentedTree() const;
@@ -101,7 +97,7 @@ public:
 
     bool isBlock() const { return category <= Category::InlineBlock; }
     /// Code goes left to right whatever stands around it, from the construction of its node on.
-    bool isCode() const;
+    bool isCode() const { return isCodeType(type); }
     bool isMarker() const { return category == Category::Marker; }
     /// A leaf by its kind: syntax characters, blanks, line endings and text never have children.
     bool isLeafKind() const { return category >= Category::Marker; }
@@ -233,7 +229,7 @@ public:
     Node* node = nullptr;
 
     Iterator() = default;
-    /// Computes the position by walking to the root.
+    /// Computes the position by walking to the root; a null node gives the null iterator.
     explicit Iterator(Node* at);
 
     Node* get() const { return node; }
@@ -268,12 +264,9 @@ public:
 
 private:
     void enter(Node* child);
+    void stepBackToFirstSibling();
     void leaf();
     void nullify();
 };
-
-/// The name of a type's nodes, static and NUL-terminated; compared by address.
-CORVANE_EXPORT const char16_t* nodeName(std::uint16_t type);
-CORVANE_EXPORT Node::Category nodeCategory(std::uint16_t type);
 
 } // namespace Ondo

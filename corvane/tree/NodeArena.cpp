@@ -86,13 +86,8 @@ NodeArena::~NodeArena() {
             ::operator delete(std::exchange(chunk, chunk->next), std::align_val_t(chunkSize));
 }
 
-bool NodeArena::isActive() {
-    return current != nullptr;
-}
-
 void* NodeArena::allocate(std::size_t size) {
-    CORVANE_ASSERT(current != nullptr, "NodeArena");
-    return current->take((size + granularity - 1) / granularity);
+    return current ? current->take((size + granularity - 1) / granularity) : nullptr;
 }
 
 void NodeArena::free(void* memory) {

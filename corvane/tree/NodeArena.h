@@ -31,19 +31,17 @@ public:
     struct CORVANE_EXPORT Release {
         void operator()(NodeArena* arena) const;
     };
+    static constexpr std::size_t granularity = 16;
     using Owner = std::unique_ptr<NodeArena, Release>;
     static Owner make();
 
-    /// Whether nodes made now come from an arena.
-    static bool isActive();
-    /// From the arena of the innermost scope; asserts that there is one.
+    /// Memory from the arena of the innermost scope, at a multiple of the granularity; null outside of any.
     static void* allocate(std::size_t size);
     static void free(void* memory);
 
 private:
     struct Chunk;
 
-    static constexpr std::size_t granularity = 16;
     static constexpr std::size_t classCount = 33;
 
     NodeArena() = default;

@@ -6,8 +6,13 @@
 
 namespace Ondo {
 
-Node::Iterator::Iterator(Node* at)
-    : offset(at->startOffset()), line(at->startLine()), level(at->treeLevel()), node(at) {}
+Node::Iterator::Iterator(Node* at) {
+    if (!at) return;
+    offset = at->startOffset();
+    line = at->startLine();
+    level = at->treeLevel();
+    node = at;
+}
 
 void Node::Iterator::nullify() {
     *this = Iterator();
@@ -61,13 +66,20 @@ void Node::Iterator::previousInSequence() {
     lastNodeOfSubtree();
 }
 
-void Node::Iterator::parent() {
-    if (!node) return;
-    if (level < 1) return nullify();
+void Node::Iterator::stepBackToFirstSibling() {
     for (const Node* before = node->previousSibling; before; before = before->previousSibling) {
         offset -= before->charCount;
         line -= before->lineCount;
     }
+}
+
+void Node::Iterator::parent() {
+    if (!node) return;
+    if (level < 1) return nullify();
+    if (level == 1)
+        offset = line = 0;
+    else
+        stepBackToFirstSibling();
     node = node->parent;
     --level;
 }
@@ -108,12 +120,13 @@ void Node::Iterator::lastNodeOfSubtree() {
     if (!node || !node->lastChild) return;
     const std::int64_t endOffset = offset + node->charCount;
     const std::int64_t lines = node->lineCount;
+    const bool isBlock = node->isBlock();
     for (; node->lastChild; ++level)
         node = node->lastChild;
     offset = endOffset - node->charCount;
     line += lines - node->lineCount;
     // A block counts its last line whether or not that line is ended.
-    if (lines >= 1 && node->category != Category::LineEnding) --line;
+    if (isBlock && lines >= 1 && node->category != Category::LineEnding) --line;
 }
 
 void Node::Iterator::maker() {

@@ -19,8 +19,10 @@ struct CORVANE_EXPORT ReparseRanges {
     /// least one remains on each side.
     ///
     /// Both regions begin and end at the same text, so that a block which lies wholly outside `replaced` has
-    /// the same text as its counterpart exactly when it has the same length.
-    static void shrink(ReparseRanges& ranges, const Range& replaced);
+    /// the same text as its counterpart exactly when it has the same length. Nodes before the edit must also
+    /// be of the same types: what a block may hold can hang on what follows it. With `comparesAll` so must
+    /// those behind it, for an edit that changes what labels mean.
+    static void shrink(ReparseRanges& ranges, const Range& replaced, bool comparesAll = false);
     /// Moves the new blocks in, destroys the old ones and corrects the counts up to the root.
     static void replaceNodes(ReparseRanges& ranges);
     /// What to restyle, once the nodes are replaced.

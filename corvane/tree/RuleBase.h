@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,7 +23,7 @@ public:
     static std::int64_t instanceCount;
 
     /// The characters that may start a match, all below 128; empty: the rule is tried at every position.
-    const std::u16string_view triggers;
+    const std::u16string triggers;
 
     explicit RuleBase(std::u16string_view triggers);
     virtual ~RuleBase();

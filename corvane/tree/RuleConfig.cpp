@@ -10,12 +10,37 @@
 #include "corvane/block/BlockQuote.h"
 #include "corvane/block/Callout.h"
 #include "corvane/block/FencedCode.h"
+#include "corvane/block/FootnoteDefinition.h"
+#include "corvane/block/HtmlBlock.h"
 #include "corvane/block/IndentedCode.h"
+#include "corvane/block/LinkReferenceDefinition.h"
 #include "corvane/block/List.h"
 #include "corvane/block/MathBlock.h"
 #include "corvane/block/Paragraph.h"
 #include "corvane/block/SetextHeading.h"
+#include "corvane/block/Table.h"
 #include "corvane/block/ThematicBreak.h"
+#include "corvane/block/Yaml.h"
+#include "corvane/inline/Autolink.h"
+#include "corvane/inline/BackslashEscape.h"
+#include "corvane/inline/CodeSpan.h"
+#include "corvane/inline/Color.h"
+#include "corvane/inline/Email.h"
+#include "corvane/inline/EmphaseStrong.h"
+#include "corvane/inline/Entity.h"
+#include "corvane/inline/Folding.h"
+#include "corvane/inline/FootnoteReference.h"
+#include "corvane/inline/HardLineBreak.h"
+#include "corvane/inline/Hashtag.h"
+#include "corvane/inline/Highlight.h"
+#include "corvane/inline/Image.h"
+#include "corvane/inline/Link.h"
+#include "corvane/inline/MathSpan.h"
+#include "corvane/inline/RawHtml.h"
+#include "corvane/inline/Replace.h"
+#include "corvane/inline/UnderlineStrikethrough.h"
+#include "corvane/inline/Url.h"
+#include "corvane/inline/Wikilink.h"
 
 namespace Ondo {
 
@@ -31,65 +56,99 @@ constexpr Sets C = in(RuleConfig::Commonmark);
 constexpr Sets E = in(RuleConfig::Extended);
 constexpr Sets S = in(RuleConfig::Simplified);
 
+/// What rules of one tree share.
+struct Shared {
+    std::shared_ptr<Block::LinkReferenceDefinition> definitions;
+    std::shared_ptr<Block::FootnoteDefinition> footnotes;
+    std::shared_ptr<Inline::LinkBase::OpenerStack> openers;
+};
+
 template <class Rule>
-std::shared_ptr<BlockRule> block() {
+std::shared_ptr<BlockRule> block(const Shared&) {
     return std::make_shared<Rule>();
 }
 
-/// A rule of the dialect. A row without a maker is a place in the order that no rule has taken yet.
+/// A definition rule owns a label index, which the rules of its references share.
+template <auto Member>
+std::shared_ptr<BlockRule> definition(const Shared& shared) {
+    return shared.*Member;
+}
+
+template <class Rule>
+std::shared_ptr<InlineRule> plain(const Shared&) {
+    return std::make_shared<Rule>();
+}
+
+template <class Rule>
+std::shared_ptr<InlineRule> link(const Shared& shared) {
+    return std::make_shared<Rule>(shared.openers, shared.definitions);
+}
+
+std::shared_ptr<InlineRule> footnoteReference(const Shared& shared) {
+    return std::make_shared<Inline::FootnoteReference>(shared.footnotes);
+}
+
+std::shared_ptr<InlineRule> leftArrow(const Shared&) {
+    return std::make_shared<Inline::Replace>(u"<-", u"\u2190");
+}
+
+std::shared_ptr<InlineRule> rightArrow(const Shared&) {
+    return std::make_shared<Inline::Replace>(u"->", u"\u2192");
+}
+
+/// A rule of the dialect.
 template <class Base>
 struct RuleRow {
-    std::string_view name;
     Sets sets;
-    std::shared_ptr<Base> (*make)();
+    std::shared_ptr<Base> (*make)(const Shared& shared);
 };
 
 constexpr RuleRow<BlockRule> blockRows[] = {
-    {"IndentedCode", C | E, block<Block::IndentedCode>},
-    {"Yaml", E | S, nullptr},
-    {"Table", E | S, nullptr},
-    {"FencedCode", C | E | S, block<Block::FencedCode>},
-    {"MathBlock", E | S, block<Block::MathBlock>},
-    {"SetextHeading", C | E, block<Block::SetextHeading>},
-    {"ThematicBreak", C | E | S, block<Block::ThematicBreak>},
-    {"AtxHeading", C | E | S, block<Block::AtxHeading>},
-    {"List", C | E | S, block<Block::List>},
-    {"FootnoteDefinition", E | S, nullptr},
-    {"LinkReferenceDefinition", C | E | S, nullptr},
-    {"HtmlBlock", C | E | S, nullptr},
-    {"BlockQuote", C | E | S, block<Block::BlockQuote>},
-    {"Callout", E | S, block<Block::Callout>},
-    {"Paragraph", C | E | S, block<Block::Paragraph>},
-    {"BlankLine", C | E | S, block<Block::BlankLine>},
+    {C | E, block<Block::IndentedCode>},
+    {E | S, block<Block::Yaml>},
+    {E | S, block<Block::Table>},
+    {C | E | S, block<Block::FencedCode>},
+    {E | S, block<Block::MathBlock>},
+    {C | E, block<Block::SetextHeading>},
+    {C | E | S, block<Block::ThematicBreak>},
+    {C | E | S, block<Block::AtxHeading>},
+    {C | E | S, block<Block::List>},
+    {E | S, definition<&Shared::footnotes>},
+    {C | E | S, definition<&Shared::definitions>},
+    {C | E | S, block<Block::HtmlBlock>},
+    {C | E | S, block<Block::BlockQuote>},
+    {E | S, block<Block::Callout>},
+    {C | E | S, block<Block::Paragraph>},
+    {C | E | S, block<Block::BlankLine>},
 };
 
 constexpr RuleRow<InlineRule> inlineRows[] = {
-    {"HardLineBreak", C | E | S, nullptr},
-    {"BackslashEscape", C | E | S, nullptr},
-    {"Url", E | S, nullptr},
-    {"Email", E | S, nullptr},
-    {"Entity", C | E | S, nullptr},
-    {"CodeSpan", C | E | S, nullptr},
-    {"MathSpan", E | S, nullptr},
-    {"Autolink", C | E | S, nullptr},
-    {"Folding", E | S, nullptr},
-    {"RawHtml", C | E | S, nullptr},
-    {"Wikilink", E | S, nullptr},
-    {"FootnoteReference", E | S, nullptr},
-    {"Image", C | E | S, nullptr},
-    {"Link", C | E | S, nullptr},
-    {"EmphaseStrong", C | E | S, nullptr},
-    {"Highlight", E | S, nullptr},
-    {"UnderlineStrikethrough", E | S, nullptr},
-    {"Color", E | S, nullptr},
-    {"Hashtag", E | S, nullptr},
-    {"Replace", E | S, nullptr}, // "<-" by "←"
-    {"Replace", E | S, nullptr}, // "->" by "→"
+    {C | E | S, plain<Inline::HardLineBreak>},
+    {C | E | S, plain<Inline::BackslashEscape>},
+    {E | S, plain<Inline::Url>},
+    {E | S, plain<Inline::Email>},
+    {C | E | S, plain<Inline::Entity>},
+    {C | E | S, plain<Inline::CodeSpan>},
+    {E | S, plain<Inline::MathSpan>},
+    {C | E | S, plain<Inline::Autolink>},
+    {E | S, plain<Inline::Folding>},
+    {C | E | S, plain<Inline::RawHtml>},
+    {E | S, plain<Inline::Wikilink>},
+    {E | S, footnoteReference},
+    {C | E | S, link<Inline::Image>},
+    {C | E | S, link<Inline::Link>},
+    {C | E | S, plain<Inline::EmphaseStrong>},
+    {E | S, plain<Inline::Highlight>},
+    {E | S, plain<Inline::UnderlineStrikethrough>},
+    {E | S, plain<Inline::Color>},
+    {E | S, plain<Inline::Hashtag>},
+    {E | S, leftArrow},
+    {E | S, rightArrow},
 };
 
 constexpr RuleRow<InlineRule> attributeRows[] = {
-    {"BackslashEscape", C | E | S, nullptr},
-    {"Entity", C | E | S, nullptr},
+    {C | E | S, plain<Inline::BackslashEscape>},
+    {C | E | S, plain<Inline::Entity>},
 };
 
 /// `rule` ends where one of `terminating` begins, tried in this order.
@@ -112,6 +171,8 @@ constexpr TerminatingRow terminatingRows[] = {
     {"LinkReferenceDefinition", C | E | S,
      "SetextHeading AtxHeading ThematicBreak BlockQuote List FencedCode HtmlBlock"},
     {"LinkReferenceDefinition", E | S, "Table MathBlock"},
+    {"FootnoteDefinition", E | S,
+     "SetextHeading AtxHeading ThematicBreak BlockQuote List FencedCode HtmlBlock Table MathBlock"},
     {"Table", E | S, "IndentedCode"},
     {"MathBlock", E | S, "IndentedCode"},
 };
@@ -122,6 +183,10 @@ template <class Rule, bool Rule::*Option>
 struct OptionOf<Option> {
     static void set(RuleBase& rule) { static_cast<Rule&>(rule).*Option = true; }
 };
+
+void setLogogramFlanking(RuleBase& rule) {
+    static_cast<Inline::EmphaseStrongBase&>(rule).options.logogramFlanking = true;
+}
 
 /// An option that is off but for these rule sets.
 struct OptionRow {
@@ -141,6 +206,14 @@ constexpr OptionRow optionRows[] = {
     {"List", S, OptionOf<&Block::List::noLazyContinuation>::set},
     {"List", S, OptionOf<&Block::List::tabContinuesItem>::set},
     {"BlockQuote", S, OptionOf<&Block::BlockQuote::noLazyContinuation>::set},
+    {"Link", E | S, OptionOf<&Inline::LinkBase::allowUndefinedReferences>::set},
+    {"Image", E | S, OptionOf<&Inline::LinkBase::allowUndefinedReferences>::set},
+    {"Link", E | S, OptionOf<&Inline::LinkBase::leavesFootnotes>::set},
+    {"Image", E | S, OptionOf<&Inline::LinkBase::leavesFootnotes>::set},
+    {"EmphaseStrong", S, setLogogramFlanking},
+    {"UnderlineStrikethrough", S, setLogogramFlanking},
+    {"Highlight", S, setLogogramFlanking},
+    {"Wikilink", S, OptionOf<&Inline::Wikilink::escapedPipeIsSeparator>::set},
 };
 
 template <class Rules>
@@ -150,9 +223,9 @@ auto findByName(const Rules& rules, std::string_view name) {
 }
 
 template <class Map, class Row, std::size_t N>
-void fill(Map& map, const Row (&rows)[N], Sets set) {
+void fill(Map& map, const Row (&rows)[N], Sets set, const Shared& shared) {
     for (const Row& row : rows)
-        if ((row.sets & set) && row.make) map.addRule(row.make());
+        if (row.sets & set) map.addRule(row.make(shared));
 }
 
 void addTerminatingRules(const BlockRuleMap& map, const TerminatingRow& row) {
@@ -185,11 +258,15 @@ bool removeFrom(Map& map, std::string_view name) {
 
 } // namespace
 
-RuleConfig::RuleConfig(RuleSet ruleSet) {
+RuleConfig::RuleConfig(RuleSet ruleSet) : referencesNeedDefinitions(ruleSet == Commonmark) {
     const Sets set = in(ruleSet);
-    fill(blockRules, blockRows, set);
-    fill(inlineRules, inlineRows, set);
-    fill(attributeRules, attributeRows, set);
+    const Shared shared{std::make_shared<Block::LinkReferenceDefinition>(),
+                        std::make_shared<Block::FootnoteDefinition>(), Inline::LinkBase::makeOpenerStack()};
+    fill(blockRules, blockRows, set, shared);
+    fill(inlineRules, inlineRows, set, shared);
+    fill(attributeRules, attributeRows, set, shared);
+    connectionGroups = {&shared.definitions->labeledConnections};
+    if (set & (E | S)) connectionGroups.push_back(&shared.footnotes->labeledConnections);
     for (const TerminatingRow& row : terminatingRows)
         if (row.sets & set) addTerminatingRules(blockRules, row);
     for (const OptionRow& row : optionRows) {
@@ -207,6 +284,7 @@ RuleConfig& RuleConfig::operator=(RuleConfig&& other) noexcept {
     inlineRules = std::move(other.inlineRules);
     attributeRules = std::move(other.attributeRules);
     connectionGroups = std::move(other.connectionGroups);
+    referencesNeedDefinitions = other.referencesNeedDefinitions;
     return *this;
 }
 
@@ -235,10 +313,10 @@ void RuleConfig::removeRuleByName(std::string_view name) {
     removeFrom(attributeRules, name);
 }
 
-std::set<LabeledNode*> RuleConfig::nodesWithIndirectChange() const {
-    std::set<LabeledNode*> nodes;
+std::vector<LabeledNode*> RuleConfig::nodesWithIndirectChange() const {
+    std::vector<LabeledNode*> nodes;
     for (const LabeledConnections* group : connectionGroups)
-        nodes.insert(group->changedNodes.begin(), group->changedNodes.end());
+        nodes.insert(nodes.end(), group->changedNodes.begin(), group->changedNodes.end());
     return nodes;
 }
 

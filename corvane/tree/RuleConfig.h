@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <set>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +23,10 @@ public:
     /// The label indexes, which the definition rules own.
     std::vector<LabeledConnections*> connectionGroups;
 
+    /// A reference is one only where its label is defined, so that definitions decide how text far from them
+    /// is parsed.
+    bool referencesNeedDefinitions = false;
+
     explicit RuleConfig(RuleSet ruleSet);
     ~RuleConfig();
     RuleConfig(RuleConfig&& other) noexcept;
@@ -34,8 +37,8 @@ public:
     /// Removes the rule from all maps and from all terminating rules.
     void removeRuleByName(std::string_view name);
 
-    /// Nodes whose meaning changed through an edit elsewhere, since the last reset.
-    std::set<LabeledNode*> nodesWithIndirectChange() const;
+    /// Nodes whose meaning changed through an edit elsewhere, since the last reset; in no order.
+    std::vector<LabeledNode*> nodesWithIndirectChange() const;
     void resetIndirectChangeTracking();
 
 private:

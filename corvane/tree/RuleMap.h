@@ -27,10 +27,12 @@ public:
         for (const char16_t trigger : rule->triggers) {
             CORVANE_ASSERT(trigger < mapSize, "RuleMap");
             table_[trigger].push_back(rule);
+            isUsed_[trigger] = true;
         }
         if (!rule->triggers.empty()) return;
         for (Rules& rules : table_)
             rules.push_back(rule);
+        isUsed_.fill(true);
         fallbackRules_.push_back(rule);
     }
     void addRules(const Rules& rules) {
@@ -44,6 +46,8 @@ public:
         std::for_each(table_.begin(), table_.end(), removeFrom);
         removeFrom(fallbackRules_);
         removeFrom(allRules_);
+        for (std::size_t c = 0; c < mapSize; ++c)
+            isUsed_[c] = !table_[c].empty();
     }
     void removeRules(const Rules& rules) {
         for (const auto& rule : rules)
@@ -53,9 +57,12 @@ public:
 
     const Rules& getRules(char16_t c) const { return c < mapSize ? table_[c] : fallbackRules_; }
     const Rules& getAllRules() const { return allRules_; }
+    /// Whether no rule is filed under the character.
+    bool isUnused(char16_t c) const { return c < mapSize ? !isUsed_[c] : fallbackRules_.empty(); }
 
 private:
     std::array<Rules, mapSize> table_;
+    std::array<bool, mapSize> isUsed_{}; ///< so that a scan for the next opening touches little memory
     Rules allRules_;
     Rules fallbackRules_;
 };

@@ -5,6 +5,13 @@
 
 namespace Ondo {
 
+TextBuffer& TextBuffer::operator=(TextBuffer&& other) noexcept {
+    units_ = std::exchange(other.units_, {});
+    gapStart_ = std::exchange(other.gapStart_, 0);
+    gapLength_ = std::exchange(other.gapLength_, 0);
+    return *this;
+}
+
 void TextBuffer::moveGap(std::int64_t to) const {
     char16_t* const data = units_.data();
     if (to < gapStart_)

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "corvane/scan/Export.h"
 #include "corvane/tree/Range.h"
@@ -18,6 +19,11 @@ class CORVANE_EXPORT TextBuffer {
 public:
     TextBuffer() = default;
     explicit TextBuffer(std::u16string text) : units_(std::move(text)) { gapStart_ = size(); }
+    /// A buffer that was moved from is empty.
+    TextBuffer(TextBuffer&& other) noexcept { *this = std::move(other); }
+    TextBuffer& operator=(TextBuffer&& other) noexcept;
+    TextBuffer(const TextBuffer&) = default;
+    TextBuffer& operator=(const TextBuffer&) = default;
 
     std::int64_t size() const { return static_cast<std::int64_t>(units_.size()) - gapLength_; }
     std::int64_t length() const { return size(); }

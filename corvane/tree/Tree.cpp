@@ -15,7 +15,8 @@ namespace Ondo {
 struct Tree::Region {
     Node::Iterator startNode; ///< positions are those before the edit
     Node::Iterator endNode;
-    std::int64_t delta = 0; ///< by how much the edit makes the text longer
+    std::int64_t delta = 0;     ///< by how much the edit makes the text longer
+    bool changesLabels = false; ///< so that equal text far away is parsed in another way
     std::unique_ptr<Node> fragment;
 
     Range newRange() const { return {startNode.offset, endNode.end() + delta - startNode.offset}; }
@@ -69,6 +70,15 @@ void toStartOfDefinitions(Node::Iterator& at) {
         at.previousSibling();
 }
 
+/// A heading can be folded only when the block behind it lets it, which the edit may change.
+void toHeadingBefore(Node::Iterator& at) {
+    Node::Iterator before = at;
+    do
+        before.previousSibling();
+    while (before.node && isBlank(before.node));
+    if (before.node && before->type == ONDO_ATX_HEADING_NODE) at = before;
+}
+
 /// Forward to the first block that is not blank, and over a run of definitions: a definition can turn into
 /// text, or back, when its neighbour changes.
 void toEndOfRegion(Node::Iterator& at) {
@@ -87,6 +97,10 @@ bool hasBlockStartingAt(const Node* fragment, std::int64_t offset) {
     for (const Node* block = fragment->lastChild; block && start > offset; block = block->previousSibling)
         start -= block->charCount;
     return start == offset;
+}
+
+bool looksBehindEnd(const Node* fragment) {
+    return static_cast<const DocumentNode*>(fragment)->looksBehindEnd;
 }
 
 } // namespace
@@ -113,7 +127,7 @@ Tree::~Tree() = default;
 
 std::unique_ptr<Node> Tree::parse(std::u16string_view text, const Node* previousBlock) {
     const NodeArena::Scope scope(*arena_);
-    return Parser::parse(text, ruleConfig_, directionBehind(previousBlock));
+    return Parser::parse(text, ruleConfig_, directionBehind(previousBlock), !previousBlock);
 }
 
 std::vector<Range> Tree::replace(Range range, std::u16string_view replacement) {
@@ -129,10 +143,16 @@ std::vector<Range> Tree::replace(Range range, std::u16string_view replacement) {
     region.delta = inserted - range.length;
     markdown_.replace(range, replacement);
     parseFragment(region);
-    if (needFullReparse(region, range.offset, inserted))
+    region.changesLabels = changesDefinedLabels(region);
+    if (region.changesLabels || needFullReparse(region, range.offset, inserted))
         widenToDocument(region);
     else
         widen(region);
+    if (!region.changesLabels && changesDefinedLabels(region)) {
+        // What the region has grown by can hold definitions, too.
+        region.changesLabels = true;
+        widenToDocument(region);
+    }
     return patch(region, range);
 }
 
@@ -160,6 +180,7 @@ Tree::Region Tree::regionForReparse(const Range& range) const {
     region.endNode = range.length == 0 ? region.startNode : firstLevelAt(root.get(), range.end());
     toStartOfRegion(region.startNode);
     toStartOfDefinitions(region.startNode);
+    toHeadingBefore(region.startNode);
     toEndOfRegion(region.endNode);
     return region;
 }
@@ -176,13 +197,26 @@ bool Tree::needFullReparse(const Region& region, std::int64_t offset, std::int64
     });
 }
 
+bool Tree::changesDefinedLabels(const Region& region) const {
+    if (!ruleConfig_.referencesNeedDefinitions) return false;
+    const auto& groups = ruleConfig_.connectionGroups;
+    return std::any_of(groups.begin(), groups.end(), [&region](const LabeledConnections* group) {
+        return group->changesDefinedLabels(region.startNode.node, region.endNode.node);
+    });
+}
+
 void Tree::widenToDocument(Region& region) {
     ++fullReparseCount_;
     region.fragment.reset();
     ruleConfig_.resetIndirectChangeTracking();
     region.startNode = firstBlock(root.get());
     region.endNode = lastBlock(root.get());
+    for (LabeledConnections* group : ruleConfig_.connectionGroups)
+        group->setParsesAll(true);
     parseFragment(region);
+    for (LabeledConnections* group : ruleConfig_.connectionGroups)
+        group->setParsesAll(false);
+    region.changesLabels = region.changesLabels || changesDefinedLabels(region);
 }
 
 /// Takes in the blocks behind the region that its last block has grown into: a list item that now reaches
@@ -190,7 +224,9 @@ void Tree::widenToDocument(Region& region) {
 /// costs no more than a few parses of what has to be parsed anyway.
 void Tree::widen(Region& region) {
     const auto isAligned = [&region] {
-        return hasBlockStartingAt(region.fragment.get(),
+        // A blank line at the end of the fragment may be an item's that goes on behind it.
+        return !isBlank(region.endNode.node) && !looksBehindEnd(region.fragment.get()) &&
+               hasBlockStartingAt(region.fragment.get(),
                                   region.endNode.offset + region.delta - region.startNode.offset);
     };
     for (std::int64_t steps = 1; region.endNode->nextSibling && !isAligned(); steps *= 2) {
@@ -205,7 +241,7 @@ std::vector<Range> Tree::patch(Region& region, const Range& range) {
     const std::int64_t start = region.startNode.offset;
     ReparseRanges ranges{region.startNode, region.endNode, firstBlock(region.fragment.get()),
                          lastBlock(region.fragment.get())};
-    ReparseRanges::shrink(ranges, range);
+    ReparseRanges::shrink(ranges, range, region.changesLabels);
     Node* const behind = ranges.oldEnd->nextSibling;
     ReparseRanges::replaceNodes(ranges);
     region.fragment.reset();
@@ -240,14 +276,15 @@ void Tree::rulesExpandRedrawRanges(std::vector<Range>& ranges) {
 
 void Tree::addIndirectRedrawRanges(std::vector<Range>& ranges) {
     CORVANE_ASSERT(ranges.size() == 1, "Tree");
-    const std::set<LabeledNode*> changed = ruleConfig_.nodesWithIndirectChange();
+    const std::vector<LabeledNode*> changed = ruleConfig_.nodesWithIndirectChange();
     ruleConfig_.resetIndirectChangeTracking();
     std::vector<Range> blocks;
     for (LabeledNode* node : changed) {
-        const Range own{node->startOffset(), node->charCount};
-        if (own.offset >= ranges[0].offset && own.end() <= ranges[0].end()) continue;
+        // The first range consists of whole blocks: it holds the node when it holds the node's block.
         const Node* const block = node->firstLevelAncestor();
-        blocks.push_back({block->startOffset(), block->charCount});
+        const Range range{block->startOffset(), block->charCount};
+        if (range.offset >= ranges[0].offset && range.end() <= ranges[0].end()) continue;
+        blocks.push_back(range);
     }
     std::sort(blocks.begin(), blocks.end(),
               [](const Range& a, const Range& b) { return a.offset < b.offset; });
@@ -285,11 +322,19 @@ std::u16string Tree::toIndentedTree() const {
 }
 
 std::u16string_view Tree::markdownForNode(const Node* node) const {
-    return markdownIn({node->startOffset(), node->charCount});
+    const std::int64_t start = node->startOffset();
+    if (start > length()) return node->expensiveSubstring(markdown()); // the failure that it is
+    return markdownIn({start, std::min(node->charCount, length() - start)});
 }
 
 Node* Tree::nodeAtOffset(std::int64_t offset, LevelSetting level) const {
     return root->nodeAtRelativeOffset(offset, level);
+}
+
+NodeIterator Tree::nodeIteratorAtOffset(std::int64_t offset) const {
+    NodeIterator iterator(markdown(), root.get());
+    iterator.nextByOffset(offset);
+    return iterator;
 }
 
 Node::Iterator Tree::iteratorAtOffset(std::int64_t offset, LevelSetting level) const {

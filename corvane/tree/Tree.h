@@ -8,6 +8,7 @@
 
 #include "corvane/tree/Node.h"
 #include "corvane/tree/NodeArena.h"
+#include "corvane/tree/NodeIterator.h"
 #include "corvane/tree/RuleConfig.h"
 #include "corvane/tree/SyncRanges.h"
 #include "corvane/tree/TextBuffer.h"
@@ -34,6 +35,7 @@ public:
     SyncRanges syncRanges;      ///< what replaceDeferSync() has gathered
 
     explicit Tree(std::u16string markdown, RuleConfig::RuleSet ruleSet = RuleConfig::Extended);
+    /// A tree that was moved from can be destroyed or assigned to, nothing else.
     Tree(Tree&& other) noexcept;
     Tree& operator=(Tree&& other) noexcept;
     ~Tree();
@@ -69,9 +71,14 @@ public:
 
     std::u16string toHtml() const;
     std::u16string toIndentedTree() const;
+    /// As Node::expensiveSubstring(): a start beyond the text is the standard library's out-of-range failure,
+    /// the length is clamped.
     std::u16string_view markdownForNode(const Node* node) const;
     Node* nodeAtOffset(std::int64_t offset, LevelSetting level) const;
     Node::Iterator iteratorAtOffset(std::int64_t offset, LevelSetting level) const;
+    /// A cursor on the highest node that starts at the offset, or on the leaf that holds it, or at the end of
+    /// the document. Asserts that the offset lies in the text.
+    NodeIterator nodeIteratorAtOffset(std::int64_t offset) const;
 
     // Rules
 
@@ -94,6 +101,7 @@ private:
     void widen(Region& region);
     void widenToDocument(Region& region);
     bool needFullReparse(const Region& region, std::int64_t offset, std::int64_t inserted) const;
+    bool changesDefinedLabels(const Region& region) const;
     std::vector<Range> patch(Region& region, const Range& range);
     static void inheritDirections(Node* behind, Range& redraw);
     void rulesPostprocessing(const ReparseRanges& ranges);
