@@ -3,6 +3,7 @@
 #include <string>
 
 #include "corvane/tree/BlockParser.h"
+#include "tests/support/Hostile.h"
 #include "tests/support/TreeCheck.h"
 
 // Hostile and huge texts. Nothing is timed here, but what takes more than linear time would not come to an
@@ -170,6 +171,32 @@ TEST(Robustness, VeryLongLines) {
         Tree tree(u"x\n" + repeated(unit, count / scale), RuleConfig::Extended);
         EXPECT_EQ(checkTree(tree), "");
         expectEditable(tree, u"x");
+    }
+}
+
+/// Each in every place, in all rule sets, edited.
+TEST(Robustness, HostileInlines) {
+    for (const RuleConfig::RuleSet set : allRuleSets) {
+        for (const Hostile& hostile : hostileUnits) {
+            for (const HostilePlace& place : hostilePlaces) {
+                SCOPED_TRACE(visible(hostile.open) + ' ' + visible(hostile.close) + " in " + place.name);
+                Tree tree(hostileText(hostile, place, 1000 / scale), set);
+                EXPECT_TRUE(isTiled(tree));
+                expectEditable(tree, u"x\n");
+            }
+        }
+    }
+}
+
+/// As many as a hostile paste may hold, and the HTML of it. The indented tree of what nests so deep would be
+/// mostly indentation.
+TEST(Robustness, VeryManyHostileInlines) {
+    for (const Hostile& hostile : hostileUnits) {
+        SCOPED_TRACE(visible(hostile.open) + ' ' + visible(hostile.close));
+        const Tree tree(hostileText(hostile, hostilePlaces[0], 100'000 / scale), RuleConfig::Extended);
+        EXPECT_TRUE(isTiled(tree));
+        EXPECT_FALSE(tree.toHtml().empty());
+        EXPECT_TRUE(!hostile.close.empty() || !tree.toIndentedTree().empty());
     }
 }
 

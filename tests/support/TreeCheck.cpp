@@ -43,7 +43,7 @@ std::string checkNode(const Tree& tree, const Node::Iterator& at) {
     for (const Node* child = node.firstChild; child; previous = child, child = child->nextSibling) {
         if (child->parent != &node) return error("a child has another parent");
         if (child->previousSibling != previous) return error("sibling links are not mutual");
-        if (!mayHold(node, *child)) return error("holds a " + Util::utf8(child->name));
+        if (!mayHold(node, *child)) return error("holds a " + Util::utf8(child->name()));
         chars += child->charCount;
     }
     if (previous != node.lastChild) return error("the last child is not the end of the list");
@@ -65,6 +65,14 @@ std::string checkNode(const Tree& tree, const Node::Iterator& at) {
     return {};
 }
 
+/// How far above the node its maker is.
+std::int64_t stepsToMaker(const Node& node) {
+    std::int64_t steps = 0;
+    for (const Node* at = &node; at && node.maker && at != node.maker; at = at->parent)
+        ++steps;
+    return steps;
+}
+
 std::string compareNodes(const Node::Iterator& a, const Node::Iterator& b) {
     const auto error = [&](const std::string& what) { return describe(*a, a.offset, what); };
     if (a->type != b->type) return error("is a " + Util::utf8(b->toIndentedTree()) + " in a fresh parse");
@@ -76,7 +84,7 @@ std::string compareNodes(const Node::Iterator& a, const Node::Iterator& b) {
     if (a->folded != b->folded) return error("fold flag");
     if (!a->maker != !b->maker) return error("maker set on one side only");
     if (a->maker && a->maker->type != b->maker->type) return error("maker of another type");
-    if (a->maker && a->maker->treeLevel() != b->maker->treeLevel()) return error("maker on another level");
+    if (stepsToMaker(*a) != stepsToMaker(*b)) return error("maker on another level");
     if (!a->hasEqualData(*b)) return error("data differ from those of a fresh parse");
     return {};
 }
@@ -92,15 +100,18 @@ std::string checkTree(const Tree& tree) {
     return {};
 }
 
-std::string differenceFromFreshParse(const Tree& tree) {
-    const Tree fresh(std::u16string(tree.markdown()), tree.ruleSet);
+std::string difference(const Tree& tree, const Tree& fresh) {
     Node::Iterator a = tree.root->begin();
     Node::Iterator b = fresh.root->begin();
     for (; a.node && b.node; ++a, ++b) {
-        const std::string difference = compareNodes(a, b);
-        if (!difference.empty()) return difference;
+        const std::string found = compareNodes(a, b);
+        if (!found.empty()) return found;
     }
     return !a.node == !b.node ? "" : "one tree has more nodes";
+}
+
+std::string differenceFromFreshParse(const Tree& tree) {
+    return difference(tree, Tree(std::u16string(tree.markdown()), tree.ruleSet));
 }
 
 std::string indentedTree(std::u16string_view text, RuleConfig::RuleSet rules) {

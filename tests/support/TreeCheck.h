@@ -11,9 +11,10 @@ namespace Ondo::Test {
 /// agree with each other.
 std::string checkTree(const Tree& tree);
 
-/// Compares a tree with a fresh parse of the same text, in all but the two fields that go stale by design:
-/// types, lengths, line counts, directions, fold flags, makers by position, and the data of each class.
-/// Returns the first difference in words; empty when there is none.
+/// Compares two trees in all but the two fields that go stale by design: types, lengths, line counts,
+/// directions, fold flags, makers by position, and the data of each class. Returns the first difference in
+/// words; empty when there is none.
+std::string difference(const Tree& tree, const Tree& fresh);
 std::string differenceFromFreshParse(const Tree& tree);
 
 /// The tree of a text as one string, and a text with its control characters made visible.

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "corvane/inline/FootnoteReference.h"
 #include "corvane/tree/Common.h"
 #include "corvane/tree/InlineParser.h"
 #include "tests/support/Nodes.h"
@@ -47,6 +48,16 @@ TEST(AssertionDeathTest, Tree) {
         tree.removeRuleByName("BlankLine");
         tree.replace({0, 0}, u"\n");
     };
+    const auto mergeStranger = [](bool isDefinition) {
+        return [isDefinition] {
+            Tree tree(u"[a]: /b");
+            LabeledConnections& links = tree.getLabeledConnections(u"link_references");
+            auto& justAdded = isDefinition ? links.justAddedDefinitions : links.justAddedReferences;
+            Inline::FootnoteReferenceNode stranger(0, 1, 0, 0);
+            justAdded.push_back(&stranger);
+            links.mergeJustAdded(0, {0, 0}, 0);
+        };
+    };
     expectDeaths({
         {"range.offset >= 0", "replace", "Tree", replace({-1, 1})},
         {"range.length >= 0", "replace", "Tree", replace({1, -1})},
@@ -57,6 +68,11 @@ TEST(AssertionDeathTest, Tree) {
         {"markdown_.empty()", "removeRuleByName", "Tree", [] { Tree(u"a").removeRuleByName("MathBlock"); }},
         {"connection != ruleConfig_.connectionGroups.end()", "getLabeledConnections", "Tree",
          [] { Tree(u"").getLabeledConnections(u"no such group"); }},
+        {"result != definitions.rend()", "mergeJustAdded", "LabeledConnections", mergeStranger(true)},
+        {"result != references.rend()", "mergeJustAdded", "LabeledConnections", mergeStranger(false)},
+        {"deltaOffset >= 0", "nextByOffset", "NodeIterator", [] { Tree(u"a").nodeIteratorAtOffset(-1); }},
+        {"deltaOffset <= markdown_.size() - markdownOffset_", "nextByOffset", "NodeIterator",
+         [] { Tree(u"a").nodeIteratorAtOffset(2); }},
         {"linesParsed != 0", "", "BlockParser", parseWithoutBlankLines},
         {"newRanges.size() > 0", "add", "SyncRanges",
          [] {

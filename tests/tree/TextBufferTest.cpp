@@ -46,5 +46,18 @@ TEST(TextBuffer, EqualsAStringThroughRandomEdits) {
     EXPECT_EQ(buffer.all(), expected);
 }
 
+TEST(TextBuffer, IsEmptyBehindAMove) {
+    TextBuffer from(u"abcdef");
+    from.replace({2, 2}, u""); // leaves a gap
+    TextBuffer to(std::move(from));
+    EXPECT_EQ(to.all(), u"abef");
+    EXPECT_EQ(from.size(), 0);
+    EXPECT_EQ(from.all(), u"");
+    from.replace({0, 0}, u"x");
+    to = std::move(from);
+    EXPECT_EQ(to.all(), u"x");
+    EXPECT_EQ(from.size(), 0);
+}
+
 } // namespace
 } // namespace Ondo::Test

@@ -16,8 +16,8 @@ constexpr RuleConfig::RuleSet C = RuleConfig::Commonmark;
 TEST(TreeText, IndentedTree) {
     EXPECT_EQ(indentedTree(u"", C), "document()\n");
     EXPECT_EQ(
-        indentedTree(u" a\tb\\  \r\nc", C),
-        "document\n  paragraph\n    space( )\n    text(a\\tb\\\\)\n    space(  )\n    line_ending(\\r\\n)\n"
+        indentedTree(u" a\tb\\ \r\nc", C),
+        "document\n  paragraph\n    space( )\n    text(a\\tb\\\\)\n    space( )\n    line_ending(\\r\\n)\n"
         "    text(c)\n");
     // A subtree keeps its level.
     const Tree tree(u"a\n\n> b\nc", C);
@@ -31,7 +31,7 @@ TEST(TreeText, IndentedTree) {
 TEST(TreeText, Html) {
     EXPECT_EQ(html(u"\n  \n", C), "");
     // Blanks around a line leave no trace, nor does the line ending at the edge.
-    EXPECT_EQ(html(u"  a  \r\n b \rc\n\n\n\"&<>'", C), "<p>a\nb\nc</p>\n<p>&quot;&amp;&lt;&gt;'</p>\n");
+    EXPECT_EQ(html(u"  a \r\n b \rc\n\n\n\"&<>'", C), "<p>a\nb\nc</p>\n<p>&quot;&amp;&lt;&gt;'</p>\n");
     const auto lines = makeTree("p0-3");
     for (const int offset : {0, 1, 2})
         lines->linkSubtree(std::make_unique<Inline::LineEndingNode>(offset, offset + 1, 0));
