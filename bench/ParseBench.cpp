@@ -1,4 +1,5 @@
-// Whole documents: MB/s of UTF-8 input, bytes of tree a byte of input, and what it costs to free the tree.
+// Whole documents: MB/s of UTF-8 input, bytes of tree a UTF-16 code unit, and what it costs to free the tree.
+// The label says whether the notes are real or made.
 
 #include <benchmark/benchmark.h>
 #include <cmark.h>
@@ -20,6 +21,12 @@ namespace {
     return mallopt(M_TRIM_THRESHOLD, 1 << 30) && mallopt(M_MMAP_THRESHOLD, 1 << 29);
 }();
 
+Note noteFor(benchmark::State& state) {
+    Note note = realNote(static_cast<std::size_t>(state.range(0)));
+    state.SetLabel(note.source);
+    return note;
+}
+
 /// Runs `parse` under the clock and `release` outside it.
 template <class Parse, class Release>
 void measure(benchmark::State& state, std::size_t bytes, Parse parse, Release release) {
@@ -39,7 +46,7 @@ std::size_t bytesInUse() {
 }
 
 void parseCorvane(benchmark::State& state, RuleConfig::RuleSet rules) {
-    const std::string note = benchNote(static_cast<std::size_t>(state.range(0)));
+    const std::string note = noteFor(state).text;
     RuleConfig config(rules);
     const std::u16string text = Util::utf16(note);
     const auto parse = [&] {
@@ -51,13 +58,13 @@ void parseCorvane(benchmark::State& state, RuleConfig::RuleSet rules) {
     const std::size_t before = bytesInUse();
     const std::int64_t nodes = Node::instanceCount;
     const std::unique_ptr<Node> root = parse();
-    state.counters["tree_bytes_per_byte"] =
-        static_cast<double>(bytesInUse() - before) / static_cast<double>(note.size());
+    state.counters["tree_bytes_per_unit"] =
+        static_cast<double>(bytesInUse() - before) / static_cast<double>(text.size());
     state.counters["nodes"] = static_cast<double>(Node::instanceCount - nodes);
 }
 
 void freeCorvane(benchmark::State& state) {
-    const std::u16string text = Util::utf16(benchNote(static_cast<std::size_t>(state.range(0))));
+    const std::u16string text = Util::utf16(noteFor(state).text);
     for (auto _ : state) {
         Tree tree(text, RuleConfig::Extended);
         const double start = cpuSeconds();
@@ -67,14 +74,14 @@ void freeCorvane(benchmark::State& state) {
 }
 
 void parseCmark(benchmark::State& state) {
-    const std::string note = benchNote(static_cast<std::size_t>(state.range(0)));
+    const std::string note = noteFor(state).text;
     measure(
         state, note.size(), [&] { return cmark_parse_document(note.data(), note.size(), CMARK_OPT_DEFAULT); },
         [](cmark_node* root) { cmark_node_free(root); });
 }
 
 void parseMd4c(benchmark::State& state) {
-    const std::string note = benchNote(static_cast<std::size_t>(state.range(0)));
+    const std::string note = noteFor(state).text;
     MD_PARSER parser{};
     parser.enter_block = [](MD_BLOCKTYPE, void*, void*) { return 0; };
     parser.leave_block = parser.enter_block;

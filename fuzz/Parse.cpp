@@ -1,25 +1,20 @@
-// Any bytes as a note: it parses, tiles, and renders in all rule sets.
+// Any bytes as a note: it parses, tiles, counts its labels and folds, and renders.
+//
+// The first byte chooses the rule set, the second whether the rest is UTF-8 or code units.
 
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-
-#include "tests/support/TreeCheck.h"
+#include "fuzz/Bytes.h"
+#include "tests/support/BruteForce.h"
 
 using namespace Ondo;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::u16string text(size / 2, u'\0');
-    if (!text.empty()) std::memcpy(text.data(), data, text.size() * 2);
-    for (const RuleConfig::RuleSet rules : Test::allRuleSets) {
-        const Tree tree(text, rules);
-        const std::string broken = Test::checkTree(tree);
-        if (!broken.empty()) {
-            std::fprintf(stderr, "%s: %s\n", Test::nameOf(rules), broken.c_str());
-            std::abort();
-        }
-        tree.toHtml();
-        tree.toIndentedTree();
-    }
+    Fuzz::Bytes bytes(data, size);
+    const RuleConfig::RuleSet rules = bytes.ruleSet();
+    const bool isUtf8 = bytes.next() % 4 != 0;
+    const Tree tree(isUtf8 ? bytes.text(size) : bytes.units(size), rules);
+    for (std::string (*check)(const Tree&) : {Test::checkTree, Test::labelsDiffer, Test::foldsDiffer})
+        Fuzz::stopIf(tree, check(tree));
+    tree.toHtml();
+    tree.toIndentedTree();
     return 0;
 }
