@@ -1,5 +1,7 @@
 #include "corvane/inline/AddressSyntax.h"
 
+#include <algorithm>
+
 namespace Ondo::Inline::AddressSyntax {
 
 namespace {
@@ -29,30 +31,65 @@ void checkLabel(Go& go, std::int64_t start, std::int64_t end) {
     if (!isGood) go.setPos(Go::NoPos);
 }
 
+constexpr Predicate::CharacterAnyOf pathStart{u"/?#"};
+
 /// The state of a scan along a path.
 struct Path {
     Go& go;
-    std::int64_t end; ///< behind the last accepted character
-    bool hasQuery;
+    std::int64_t end;   ///< behind the last accepted character
+    std::int64_t query; ///< the last "?"; NoPos before the first
     std::int64_t squares = 0;
     std::int64_t parentheses = 0;
+    bool hasClosing = false;
+    std::int64_t nested = Go::NoLimit; ///< the first that could begin a path and stands in brackets
+    std::int64_t endQuery = Go::NoPos; ///< what lets the equals signs at the end count
 
+    /// Over the next character; false at a bracket that ends the path.
+    bool take() {
+        const char16_t c = go.unsafePeekNextCharacter();
+        if (c == u']') return close(squares);
+        if (c == u')') return close(parentheses);
+        if (squares + parentheses > 0 && pathStart(c)) nested = std::min(nested, go.pos());
+        if (c == u'[') ++squares;
+        if (c == u'(') ++parentheses;
+        if (c == u'?') query = go.pos();
+        if (c == u'=')
+            takeEqualSigns();
+        else if (isAcceptedPunctuation(c) || !Go::unicodePunctuation(c))
+            accept();
+        else
+            step();
+        return true;
+    }
     void accept() {
         step();
         end = go.pos();
     }
     void step() { go.setPos(go.pos() + 1); }
-    /// True when a bracket ends the path.
     bool close(std::int64_t& depth) {
-        if (depth == 0) return true;
+        hasClosing = true;
+        if (depth == 0) {
+            end = go.pos();
+            return false;
+        }
         --depth;
         accept();
-        return false;
+        return true;
     }
     void takeEqualSigns() {
         const std::int64_t start = go.pos();
         go.nextWhile(Go::character(u'='));
-        if (hasQuery && go.pos() - start < 3) end = go.pos();
+        if (query == Go::NoPos || go.pos() - start >= 3) return;
+        end = go.pos();
+        endQuery = query;
+    }
+    /// Up to where paths may begin inside this one and end where it ends. Closing brackets hang on those
+    /// before them, equals signs on a "?".
+    std::int64_t knownUntil() const {
+        std::int64_t until = go.pos();
+        if (hasClosing) until = std::min(until, nested);
+        if (go.isWithOffset(end - 1 - go.pos(), Go::character(u'='))) until = std::min(until, endQuery + 1);
+        return until;
     }
 };
 
@@ -77,33 +114,18 @@ void matchNextPort(Go& go) {
     if (!port.hasFailed() && port.pos() - go.pos() <= 6) go.setPos(port.pos());
 }
 
-bool matchNextPath(Go& go) {
-    if (!go.isNext(Go::characterAnyOf(u"/?#"))) return false;
-    Path path{go, go.pos() + 1, go.isNext(Go::character(u'?'))};
-    path.step();
-    while (go.pos() != go.maxPos()) {
-        const char16_t c = go.unsafePeekNextCharacter();
-        bool isEnded = Go::whitespace(c) || Go::logogram(c);
-        if (isEnded) break;
-        if (c == u']')
-            isEnded = path.close(path.squares);
-        else if (c == u')')
-            isEnded = path.close(path.parentheses);
-        else if (c == u'=')
-            path.takeEqualSigns();
-        else if (isAcceptedPunctuation(c) || !Go::unicodePunctuation(c))
-            path.accept();
-        else {
-            if (c == u'[') ++path.squares;
-            if (c == u'(') ++path.parentheses;
-            if (c == u'?') path.hasQuery = true;
-            path.step();
-        }
-        if (!isEnded) continue;
-        path.end = go.pos();
-        break;
+bool matchNextPath(Go& go, LastPath& last) {
+    const std::int64_t start = go.pos();
+    if (!go.isNext(pathStart)) return false;
+    if (start <= last.start || start >= last.until) {
+        Path path{go, start + 1, go.isNext(Go::character(u'?')) ? start : Go::NoPos};
+        path.step();
+        while (go.pos() != go.maxPos() && !go.isNext(Go::eitherOf(Go::whitespace, Go::logogram)) &&
+               path.take())
+            ;
+        last = {start, path.knownUntil(), path.end};
     }
-    go.setPos(path.end);
+    go.setPos(std::max(last.end, start + 1));
     return true;
 }
 

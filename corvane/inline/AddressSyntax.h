@@ -16,9 +16,17 @@ CORVANE_EXPORT void matchPreviousUnicodeDomain(Go& go);
 
 /// ":" and 2 to 5 digits. Stays where it is when there is no port.
 CORVANE_EXPORT void matchNextPort(Go& go);
+/// The path that was scanned last, for the ends of those that begin inside it. When a URL is given up behind
+/// its path, the next one may well begin in there.
+struct LastPath {
+    std::int64_t start = Go::NoPos;
+    std::int64_t until = Go::NoPos; ///< paths that begin before this end where this one ends
+    std::int64_t end = Go::NoPos;
+};
+
 /// From "/", "?" or "#" on, without brackets that do not pair and without trailing punctuation. False, and
-/// the cursor stays where it is, when there is no path.
-CORVANE_EXPORT bool matchNextPath(Go& go);
+/// the cursor stays where it is, when there is no path. Keep `last` for the next scan of the same text.
+CORVANE_EXPORT bool matchNextPath(Go& go, LastPath& last);
 
 /// Takes «user:password@», or stays where it is.
 CORVANE_EXPORT void matchNextUser(Go& go);

@@ -10,7 +10,7 @@ namespace Ondo::Inline {
 /// «<scheme:...>» and «<address@domain>», as CommonMark 0.31.2 has them.
 class CORVANE_EXPORT Autolink : public InlineRule {
 public:
-    Autolink() : InlineRule(u"<") {}
+    Autolink() : InlineRule(u"<", NodeState::None) {}
     std::string_view type_name() const override { return "Autolink"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 };

@@ -8,7 +8,7 @@ namespace Ondo::Inline {
 /// A backslash takes its meaning from the ASCII punctuation character behind it.
 class CORVANE_EXPORT BackslashEscape : public InlineRule {
 public:
-    BackslashEscape() : InlineRule(u"\\") {}
+    BackslashEscape() : InlineRule(u"\\", NodeState::None) {}
     std::string_view type_name() const override { return "BackslashEscape"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 

@@ -8,7 +8,7 @@ namespace Ondo::Inline {
 /// A colour value, for a swatch: "#rrggbb", "rgb(...)", "hsl(...)". Numbers are not tested for their range.
 class CORVANE_EXPORT Color : public InlineRule {
 public:
-    Color() : InlineRule(u"#rhRH") {}
+    Color() : InlineRule(u"#rhRH", NodeState::None) {}
     std::string_view type_name() const override { return "Color"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 };

@@ -25,7 +25,7 @@ public:
     /// The search halves the table as if it had no descents, so that a few names, like "eta", are not found.
     static std::uint64_t entityToCodepoint(std::u16string_view name);
 
-    Entity() : InlineRule(u"&") {}
+    Entity() : InlineRule(u"&", NodeState::None) {}
     std::string_view type_name() const override { return "Entity"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 

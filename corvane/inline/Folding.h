@@ -12,7 +12,7 @@ class CORVANE_EXPORT Folding : public InlineRule {
 public:
     static constexpr std::u16string_view comment = u"<!-- {\"fold\":true} -->";
 
-    Folding() : InlineRule(u"<") {}
+    Folding() : InlineRule(u"<", NodeState::None) {}
     std::string_view type_name() const override { return "Folding"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
     /// Sets the flags of the changed blocks, and of blocks behind them as far as a fold came, went or moved.

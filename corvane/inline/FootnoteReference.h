@@ -12,7 +12,7 @@ namespace Ondo::Inline {
 class CORVANE_EXPORT FootnoteReference : public InlineRule {
 public:
     explicit FootnoteReference(std::shared_ptr<Block::FootnoteDefinition> definitions)
-        : InlineRule(u"["), definitions_(std::move(definitions)) {}
+        : InlineRule(u"[", NodeState::None), definitions_(std::move(definitions)) {}
     std::string_view type_name() const override { return "FootnoteReference"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 

@@ -8,7 +8,7 @@ namespace Ondo::Inline {
 /// A backslash, or two spaces, at the end of a line that is not the last of its block.
 class CORVANE_EXPORT HardLineBreak : public InlineRule {
 public:
-    HardLineBreak() : InlineRule(u"\n") {}
+    HardLineBreak() : InlineRule(u"\n", NodeState::None) {}
     std::string_view type_name() const override { return "HardLineBreak"; }
     /// The cursor stands at the end of a line's content.
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;

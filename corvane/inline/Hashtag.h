@@ -11,7 +11,7 @@ namespace Ondo::Inline {
 /// A tag: «#work/notes», or «#two words/next#», which may hold spaces.
 class CORVANE_EXPORT Hashtag : public InlineRule {
 public:
-    Hashtag() : InlineRule(u"#") {}
+    Hashtag() : InlineRule(u"#", NodeState::None) {}
     std::string_view type_name() const override { return "Hashtag"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 };

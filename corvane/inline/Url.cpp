@@ -100,6 +100,13 @@ std::int64_t addInline(InlineParserNode& parser, Node* parent, const GoLines& cu
 
 void Url::beforeParseNode(InlineParserNode&) {
     chain_ = {};
+    path_ = {};
+    addressStart_ = addressEnd_ = Go::NoPos;
+}
+
+void Url::clearRange(InlineParserNode&, std::int64_t start, std::int64_t end) {
+    addressStart_ = start;
+    addressEnd_ = end;
 }
 
 std::int64_t Url::match(InlineParserNode& parser, Node* node, GoLines cursor) {
@@ -112,7 +119,8 @@ std::int64_t Url::matchWithProtocol(InlineParserNode& parser, Node* node, const 
     Go protocol = colon;
     matchPreviousProtocol(protocol);
     if (protocol.hasFailed() || !AddressSyntax::isValidLeftContext(protocol)) return Go::NoPos;
-    const std::int64_t slash = colon.pos() + 2; // the second one
+    if (isInsideAddress(protocol.pos())) return Go::NoPos; // it would cross that one
+    const std::int64_t slash = colon.pos() + 2;            // the second one
     Go go = colon;
     go.setPos(slash + 1);
     AddressSyntax::matchNextUser(go);
@@ -120,7 +128,7 @@ std::int64_t Url::matchWithProtocol(InlineParserNode& parser, Node* node, const 
     AddressSyntax::matchNextPort(go);
     // Without a path the domain is one, so that «scheme://host?x=1» keeps its query.
     if (!go.isNext(Go::character(u'/'))) go.setPos(slash);
-    AddressSyntax::matchNextPath(go);
+    AddressSyntax::matchNextPath(go, path_);
     if (go.pos() == slash + 1 || !AddressSyntax::isValidRightContext(go)) return Go::NoPos;
     return addInline(parser, node, colon, protocol.pos(), go.pos());
 }
@@ -136,9 +144,9 @@ std::int64_t Url::matchWithoutProtocol(InlineParserNode& parser, Node* node, con
     if (chain_.count == 0 || goesOn(go) || !hasRightCase(tld) || !isKnownDomain(tld, go, chain_))
         return Go::NoPos;
     const std::int64_t start = startOfAddress(dot, chain_);
-    if (start == Go::NoPos) return Go::NoPos;
+    if (start == Go::NoPos || isInsideAddress(start)) return Go::NoPos;
     AddressSyntax::matchNextPort(go);
-    AddressSyntax::matchNextPath(go);
+    AddressSyntax::matchNextPath(go, path_);
     if (!AddressSyntax::isValidRightContext(go)) return Go::NoPos;
     return addInline(parser, node, dot, start, go.pos());
 }

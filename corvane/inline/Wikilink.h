@@ -15,7 +15,7 @@ public:
     /// In table cells, where a pipe can only stand escaped, an escaped one separates the alias.
     bool escapedPipeIsSeparator = false;
 
-    Wikilink() : InlineRule(u"[") {}
+    Wikilink() : InlineRule(u"[", NodeState::None) {}
     std::string_view type_name() const override { return "Wikilink"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
 };

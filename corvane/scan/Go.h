@@ -120,8 +120,16 @@ public:
     }
     /// Cannot fail on a valid cursor.
     template <class P>
-    std::int64_t nextWhile(P predicate, std::int64_t max = NoLimit) {
+    std::int64_t nextWhile(P predicate, std::int64_t max) {
         return nextMatch(predicate, 0, max);
+    }
+    template <class P>
+    std::int64_t nextWhile(P predicate) {
+        if (!isInBounds()) return fail();
+        std::int64_t at = pos_;
+        while (at < maxPos_ && predicate(unit(at)))
+            ++at;
+        return pos_ = at;
     }
     template <class P>
     std::int64_t previousMatch(P predicate, std::int64_t min, std::int64_t max) {

@@ -31,11 +31,6 @@ std::u16string_view parsedText(const Node& node, std::u16string_view markdown) {
 
 } // namespace
 
-MarkerNode::MarkerNode(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line, Node* maker_)
-    : Node(type_, offset, end, line, 0, maker_) {
-    CORVANE_ASSERT(maker, "Common");
-}
-
 void MarkerNode::toHtml(std::u16string&, std::u16string_view, std::int64_t) const {}
 
 AttributeNode::AttributeNode(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line,
@@ -46,9 +41,6 @@ AttributeNode::AttributeNode(NodeType type_, std::int64_t offset, std::int64_t e
 
 void AttributeNode::toHtml(std::u16string&, std::u16string_view, std::int64_t) const {}
 
-TextNode::TextNode(std::int64_t offset, std::int64_t end, std::int64_t line)
-    : Node(ONDO_TEXT_NODE, offset, end, line, 0) {}
-
 void TextNode::toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const {
     Util::addHtmlEscaped(slice(markdown, offset, charCount), out);
 }
@@ -57,17 +49,11 @@ void TextNode::appendValue(std::u16string& out, std::u16string_view markdown) co
     out += parsedText(*this, markdown);
 }
 
-SpaceNode::SpaceNode(std::int64_t offset, std::int64_t end, std::int64_t line)
-    : Node(ONDO_SPACE_NODE, offset, end, line, 0) {}
-
 void SpaceNode::toHtml(std::u16string&, std::u16string_view, std::int64_t) const {}
 
 void SpaceNode::appendValue(std::u16string& out, std::u16string_view markdown) const {
     if (nextSibling && nextSibling->type == ONDO_LINE_ENDING_NODE) out += parsedText(*this, markdown);
 }
-
-LineEndingNode::LineEndingNode(std::int64_t offset, std::int64_t end, std::int64_t line)
-    : Node(ONDO_LINE_ENDING_NODE, offset, end, line, 1) {}
 
 void LineEndingNode::toHtml(std::u16string& out, std::u16string_view, std::int64_t) const {
     if (previousSibling && nextSibling) out += u'\n';

@@ -43,7 +43,10 @@ namespace Ondo::Inline {
 /// Syntax characters of a construct. Asserts `maker`.
 class CORVANE_EXPORT MarkerNode : public Node {
 public:
-    MarkerNode(NodeType type, std::int64_t offset, std::int64_t end, std::int64_t line, Node* maker);
+    MarkerNode(NodeType type_, std::int64_t offset, std::int64_t end, std::int64_t line, Node* maker_)
+        : Node(type_, offset, end, line, 0, maker_) {
+        CORVANE_ASSERT(maker, "Common");
+    }
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
 };
 
@@ -58,7 +61,8 @@ public:
 
 class CORVANE_EXPORT TextNode : public Node {
 public:
-    TextNode(std::int64_t offset, std::int64_t end, std::int64_t line);
+    TextNode(std::int64_t offset, std::int64_t end, std::int64_t line)
+        : Node(ONDO_TEXT_NODE, offset, end, line, 0) {}
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
     void appendValue(std::u16string& out, std::u16string_view markdown) const override;
 };
@@ -66,7 +70,8 @@ public:
 /// A run of spaces and tabs.
 class CORVANE_EXPORT SpaceNode : public Node {
 public:
-    SpaceNode(std::int64_t offset, std::int64_t end, std::int64_t line);
+    SpaceNode(std::int64_t offset, std::int64_t end, std::int64_t line)
+        : Node(ONDO_SPACE_NODE, offset, end, line, 0) {}
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
     /// Only directly before a line ending: there the blanks belong to the value.
     void appendValue(std::u16string& out, std::u16string_view markdown) const override;
@@ -75,7 +80,8 @@ public:
 /// One LF, CR or CR LF.
 class CORVANE_EXPORT LineEndingNode : public Node {
 public:
-    LineEndingNode(std::int64_t offset, std::int64_t end, std::int64_t line);
+    LineEndingNode(std::int64_t offset, std::int64_t end, std::int64_t line)
+        : Node(ONDO_LINE_ENDING_NODE, offset, end, line, 1) {}
     /// An LF between siblings; nothing at the edge of the parent.
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
     void appendValue(std::u16string& out, std::u16string_view markdown) const override;

@@ -16,6 +16,20 @@ GoLines contentCursor(const Node* node, std::u16string_view text, const Lines& l
             node->endWhenParsed()};
 }
 
+constexpr bool isLetter(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+/// The next position that may open a construct, behind the cursor's. A letter opens none behind a letter.
+std::int64_t nextOpening(const Go& cursor, std::u16string_view text, const InlineRuleMap& rules) {
+    const char16_t* const units = text.data();
+    const std::int64_t end = cursor.maxPos();
+    std::int64_t at = cursor.pos() + 1;
+    for (; at < end; ++at)
+        if (!rules.isUnused(units[at]) && !(isLetter(units[at]) && isLetter(units[at - 1]))) break;
+    return at;
+}
+
 /// The line of text that stands between `previous` and whatever follows it below `node`.
 std::int64_t lineBehind(Node* previous, const Node* node) {
     if (!previous) return node->lineWhenParsed;
@@ -54,20 +68,18 @@ void InlineParserNode::parseInlineBlocks(Node* blockNode) {
 void InlineParserNode::parseNode(Node* node, const InlineRuleMap& rules) {
     Node* const outerMerged = std::exchange(merged_, nullptr);
     for (const auto& rule : rules.getAllInlineRules())
-        rule->beforeParseNode(*this);
+        if (rule->keepsNodeState) rule->beforeParseNode(*this);
     GoLines cursor = contentCursor(node, text, lines);
-    const auto opensNothing = [&rules](char32_t c) { return rules.isUnused(static_cast<char16_t>(c)); };
     while (!cursor.hasFailed()) {
         if (cursor.pos() == cursor.maxPos()) {
             offerLineEnding(node, cursor, rules);
             if (cursor.nextWhileLineEnding() == cursor.maxPos()) break;
         } else if (!matchRules(node, cursor, rules)) {
-            cursor.nextMatch(Go::always, 1, 1);
-            cursor.nextWhile(opensNothing);
+            cursor.setPos(nextOpening(cursor, text, rules));
         }
     }
     for (const auto& rule : rules.getAllInlineRules())
-        rule->afterParseNode(*this, node);
+        if (rule->keepsNodeState) rule->afterParseNode(*this, node);
     merged_ = outerMerged;
 }
 
@@ -116,7 +128,7 @@ std::u16string InlineParserNode::attributeString(std::u16string_view view, const
 
 void InlineParserNode::claimRange(std::int64_t start, std::int64_t end) {
     for (const auto& rule : inlineRules_.getAllInlineRules())
-        rule->clearRange(*this, start, end);
+        if (rule->keepsNodeState) rule->clearRange(*this, start, end);
 }
 
 void InlineParserNode::addTextNodes(Node* top) {

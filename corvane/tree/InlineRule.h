@@ -11,10 +11,17 @@ class InlineParserNode;
 ///
 /// match() gets a copy of the cursor, which it moves as it likes, and answers with the position at which the
 /// scan goes on, or -1 for no match. A match makes progress, and its nodes are in the tree when it returns.
-/// State of the scan of one node is reset in beforeParseNode().
+/// A letter among the triggers counts only where no letter stands before it. State of the scan of one node is
+/// reset in beforeParseNode().
 class CORVANE_EXPORT InlineRule : public RuleBase {
 public:
-    using RuleBase::RuleBase;
+    /// Whether something is kept from one position of a node to another, so that the calls below are wanted.
+    enum class NodeState { None, Kept };
+
+    const bool keepsNodeState;
+
+    explicit InlineRule(std::u16string_view triggers_, NodeState state = NodeState::Kept)
+        : RuleBase(triggers_), keepsNodeState(state == NodeState::Kept) {}
 
     virtual std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) = 0;
     virtual void beforeParseNode(InlineParserNode& parser);

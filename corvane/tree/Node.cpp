@@ -34,17 +34,6 @@ bool isDocument(const Node* node) {
     return node->type == ONDO_DOCUMENT_NODE;
 }
 
-void linkSubtree(Node* parent, Node* node, Node* nextSibling) {
-    CORVANE_ASSERT(node->parent == nullptr, "Node");
-    CORVANE_ASSERT(nextSibling == nullptr || nextSibling->parent == parent, "Node");
-    Node* const previous = nextSibling ? nextSibling->previousSibling : parent->lastChild;
-    node->parent = parent;
-    node->previousSibling = previous;
-    node->nextSibling = nextSibling;
-    (previous ? previous->nextSibling : parent->firstChild) = node;
-    (nextSibling ? nextSibling->previousSibling : parent->lastChild) = node;
-}
-
 } // namespace
 
 std::int64_t Node::instanceCount = 0;
@@ -235,10 +224,8 @@ Node* Node::endOfLine() {
     return node;
 }
 
-Node* Node::linkSubtree(std::unique_ptr<Node> node, Node* nextSibling_) {
-    if (isDocument(this)) indexOf(this).invalidate();
-    Ondo::linkSubtree(this, node.get(), nextSibling_);
-    return node.release();
+void Node::invalidateIndex() {
+    indexOf(this).invalidate();
 }
 
 void Node::unhook() {

@@ -196,7 +196,7 @@ public:
 
     /// Inserts `node` before `nextSibling`, or as the last child. Asserts that it has no parent, and that
     /// `nextSibling` is a child of this node. Returns it.
-    Node* linkSubtree(std::unique_ptr<Node> node, Node* nextSibling = nullptr);
+    Node* linkSubtree(std::unique_ptr<Node> node, Node* nextSibling_ = nullptr);
     template <class T>
     T* link(std::unique_ptr<T> node, Node* before = nullptr) {
         return static_cast<T*>(linkSubtree(std::move(node), before));
@@ -214,6 +214,7 @@ public:
     Node* mergeSubtreeOnParsedOffsets(std::unique_ptr<Node> subtree, Node* passed = nullptr);
 
 private:
+    void invalidateIndex();
     void unhook();
 };
 
@@ -268,5 +269,27 @@ private:
     void leaf();
     void nullify();
 };
+
+namespace Detail {
+
+/// Apart from the class, so that the names of its members don't hide those of the assertion.
+inline void linkSubtree(Node* parent, Node* node, Node* nextSibling) {
+    CORVANE_ASSERT(node->parent == nullptr, "Node");
+    CORVANE_ASSERT(nextSibling == nullptr || nextSibling->parent == parent, "Node");
+    Node* const previous = nextSibling ? nextSibling->previousSibling : parent->lastChild;
+    node->parent = parent;
+    node->previousSibling = previous;
+    node->nextSibling = nextSibling;
+    (previous ? previous->nextSibling : parent->firstChild) = node;
+    (nextSibling ? nextSibling->previousSibling : parent->lastChild) = node;
+}
+
+} // namespace Detail
+
+inline Node* Node::linkSubtree(std::unique_ptr<Node> node, Node* nextSibling_) {
+    if (category == Category::Document) invalidateIndex();
+    Detail::linkSubtree(this, node.get(), nextSibling_);
+    return node.release();
+}
 
 } // namespace Ondo

@@ -1,5 +1,6 @@
 #include "corvane/tree/NodeArena.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -11,6 +12,7 @@ namespace {
 
 /// Chunks lie at multiples of their size, so that a slot finds its chunk.
 constexpr std::size_t chunkSize = 16 * 1024;
+constexpr std::size_t largestSlab = 7; ///< in chunks
 
 constinit thread_local NodeArena* current = nullptr;
 
@@ -26,6 +28,21 @@ constexpr bool isSanitized() {
 
 } // namespace
 
+/// Chunks that come from the heap together, which is cheaper than one by one.
+struct NodeArena::Slab {
+    std::byte* memory;
+    std::size_t chunkCount;
+    std::size_t freeCount = 0;
+    Slab* previous = nullptr;
+    Slab* next = nullptr;
+};
+
+struct NodeArena::FreeChunk {
+    Slab* slab;
+    FreeChunk* previous;
+    FreeChunk* next;
+};
+
 /// A stretch of slots of one size.
 struct NodeArena::Chunk {
     struct Slot {
@@ -33,27 +50,33 @@ struct NodeArena::Chunk {
     };
 
     NodeArena* arena;
+    Slab* slab;
     std::size_t sizeClass;
     Chunk* previous = nullptr;
     Chunk* next = nullptr;
     Slot* freed = nullptr;
-    std::byte* fresh; ///< the first slot that was never taken
+    std::byte* fresh;     ///< the first slot that was never taken
+    std::byte* lastFresh; ///< where the last slot lies
+    std::size_t slotSize;
     std::size_t liveCount = 0;
 
-    Chunk(NodeArena* arena_, std::size_t sizeClass_) : arena(arena_), sizeClass(sizeClass_), fresh(begin()) {}
+    Chunk(NodeArena* arena_, Slab* slab_, std::size_t sizeClass_)
+        : arena(arena_), slab(slab_), sizeClass(sizeClass_), fresh(begin()),
+          slotSize(sizeClass_ * granularity) {
+        lastFresh = end() - slotSize;
+    }
 
     std::byte* begin() {
         constexpr std::size_t headerSize = (sizeof(Chunk) + granularity - 1) / granularity * granularity;
         return reinterpret_cast<std::byte*>(this) + headerSize;
     }
     std::byte* end() { return reinterpret_cast<std::byte*>(this) + chunkSize; }
-    std::size_t slotSize() const { return sizeClass * granularity; }
-    bool isFull() { return !freed && static_cast<std::size_t>(end() - fresh) < slotSize(); }
+    bool isFull() const { return !freed && fresh > lastFresh; }
 
     void* take() {
         ++liveCount;
         if (freed) return std::exchange(freed, freed->next);
-        return std::exchange(fresh, fresh + slotSize());
+        return std::exchange(fresh, fresh + slotSize);
     }
     void put(void* memory) {
         --liveCount;
@@ -81,9 +104,8 @@ NodeArena::Owner NodeArena::make() {
 }
 
 NodeArena::~NodeArena() {
-    for (Chunk* chunk : offered_)
-        while (chunk)
-            ::operator delete(std::exchange(chunk, chunk->next), std::align_val_t(chunkSize));
+    while (slabs_)
+        removeSlab(slabs_);
 }
 
 void* NodeArena::allocate(std::size_t size) {
@@ -113,13 +135,58 @@ void NodeArena::put(Chunk* chunk, void* memory) {
     const bool isOnly = offered_[chunk->sizeClass] == chunk && !chunk->next;
     if (chunk->liveCount == 0 && !isOnly) {
         withdraw(chunk);
-        ::operator delete(chunk, std::align_val_t(chunkSize));
+        putChunk(chunk, chunk->slab);
     }
     if (--liveCount_ == 0 && isReleased_) delete this;
 }
 
 void NodeArena::addChunk(std::size_t sizeClass) {
-    offer(new (::operator new(chunkSize, std::align_val_t(chunkSize))) Chunk(this, sizeClass));
+    if (!freeChunks_) addSlab();
+    Slab* const slab = freeChunks_->slab;
+    offer(new (takeChunk()) Chunk(this, slab, sizeClass));
+}
+
+void NodeArena::addSlab() {
+    auto* const memory =
+        static_cast<std::byte*>(::operator new(slabSize_* chunkSize, std::align_val_t(chunkSize)));
+    auto* const slab = new Slab{memory, slabSize_};
+    slab->next = slabs_;
+    if (slabs_) slabs_->previous = slab;
+    slabs_ = slab;
+    for (std::size_t i = slabSize_; i > 0; --i)
+        putChunk(memory + (i - 1) * chunkSize, slab);
+    slabSize_ = std::min(2 * slabSize_, largestSlab);
+}
+
+void NodeArena::removeSlab(Slab* slab) {
+    (slab->previous ? slab->previous->next : slabs_) = slab->next;
+    if (slab->next) slab->next->previous = slab->previous;
+    ::operator delete(slab->memory, std::align_val_t(chunkSize));
+    delete slab;
+}
+
+void* NodeArena::takeChunk() {
+    FreeChunk* const chunk = freeChunks_;
+    freeChunks_ = chunk->next;
+    if (freeChunks_) freeChunks_->previous = nullptr;
+    --chunk->slab->freeCount;
+    --freeChunkCount_;
+    return chunk;
+}
+
+/// A slab goes back when all its chunks are free and others are left to be taken.
+void NodeArena::putChunk(void* memory, Slab* slab) {
+    freeChunks_ = new (memory) FreeChunk{slab, nullptr, freeChunks_};
+    if (freeChunks_->next) freeChunks_->next->previous = freeChunks_;
+    ++freeChunkCount_;
+    if (++slab->freeCount < slab->chunkCount || freeChunkCount_ < 2 * slab->chunkCount) return;
+    for (std::size_t i = 0; i < slab->chunkCount; ++i) {
+        auto* const chunk = reinterpret_cast<FreeChunk*>(slab->memory + i * chunkSize);
+        (chunk->previous ? chunk->previous->next : freeChunks_) = chunk->next;
+        if (chunk->next) chunk->next->previous = chunk->previous;
+    }
+    freeChunkCount_ -= slab->chunkCount;
+    removeSlab(slab);
 }
 
 void NodeArena::offer(Chunk* chunk) {

@@ -41,6 +41,8 @@ public:
 
 private:
     struct Chunk;
+    struct Slab;
+    struct FreeChunk;
 
     static constexpr std::size_t classCount = 33;
 
@@ -52,8 +54,16 @@ private:
     void addChunk(std::size_t sizeClass);
     void offer(Chunk* chunk);
     void withdraw(Chunk* chunk);
+    void addSlab();
+    void removeSlab(Slab* slab);
+    void* takeChunk();
+    void putChunk(void* memory, Slab* slab);
 
     Chunk* offered_[classCount] = {}; ///< by size class: chunks with a free slot
+    Slab* slabs_ = nullptr;
+    FreeChunk* freeChunks_ = nullptr; ///< for any size
+    std::size_t freeChunkCount_ = 0;
+    std::size_t slabSize_ = 1; ///< of the next slab, in chunks: they grow with the tree
     std::int64_t liveCount_ = 0;
     bool isReleased_ = false;
 };
