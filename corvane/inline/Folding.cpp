@@ -14,16 +14,24 @@ namespace {
 /// The outermost fold that is open somewhere in the first level. Inner ones hide nothing more, and end no
 /// later.
 struct OpenFold {
-    std::int64_t level = 0;  ///< of its heading; 0 when no fold is open
-    std::int64_t offset = 0; ///< of its heading
+    std::int64_t level = 0;          ///< of its heading; 0 when no fold is open
+    std::int64_t offset = Go::NoPos; ///< of its heading; NoPos when nobody has asked yet
 };
 
 OpenFold openFoldBefore(const Node* block, std::int64_t offset) {
+    const Node* const previous = block->previousSibling;
+    if (!previous) return {};
+    if (previous->folded) return {previous->foldLevel, Go::NoPos};
+    if (!FoldMarkerNode::isContentHeadFolded(previous)) return {};
+    return {FoldMarkerNode::headingLevel(previous), offset - previous->charCount};
+}
+
+/// The offset of the heading whose fold hides all up to `block`, which stands at `offset`.
+std::int64_t offsetOfHead(const Node* block, std::int64_t offset) {
     const Node* head = block->previousSibling;
-    for (; head && head->folded; head = head->previousSibling)
+    for (; head->folded; head = head->previousSibling)
         offset -= head->charCount;
-    if (!head || !FoldMarkerNode::isContentHeadFolded(head)) return {};
-    return {FoldMarkerNode::headingLevel(head), offset - head->charCount};
+    return offset - head->charCount;
 }
 
 /// The fold that is open at `block`, which a heading of the same or a higher rank closes.
@@ -80,12 +88,16 @@ void Folding::setFoldStatusForHeadingContent(const ReparseRanges& ranges) {
     for (Node* block = first; block; block = block->nextSibling) {
         enter(fold, block);
         const bool folded = fold.level != 0;
-        if (!isNew && !folded && !block->folded) break;
+        // From a block on that is hidden as it was, all is as it was.
+        if (!isNew && block->foldLevel == fold.level && !(isHidden && folded)) break;
         isHidden = isHidden || (isNew && folded);
         const std::int64_t end = offset + block->charCount;
+        if (isHidden && folded && fold.offset == Go::NoPos)
+            fold.offset = offsetOfHead(first, ranges.oldStart.offset);
         if (isHidden && folded) addRedrawRange(fold.offset, end);
         if (!isNew && block->folded != folded) addRedrawRange(ranges.oldStart.offset, end);
         block->folded = folded;
+        block->foldLevel = static_cast<std::uint8_t>(fold.level);
         if (isNew) updateFoldability(block);
         if (!folded && FoldMarkerNode::isContentHeadFolded(block))
             fold = {FoldMarkerNode::headingLevel(block), offset};

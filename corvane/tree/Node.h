@@ -47,6 +47,8 @@ public:
     Direction direction;
     bool folded = false;
     bool startsIndexRun = false; ///< bookkeeping of FirstLevelIndex
+    /// Of a first-level block: the level of the outermost heading whose fold hides it; bookkeeping of folds.
+    std::uint8_t foldLevel = 0;
     /// Absolute offset at the time of the parse. Means something only during that parse and among nodes of
     /// it.
     std::int64_t offsetWhenParsed;

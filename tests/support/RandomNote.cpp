@@ -157,6 +157,7 @@ constexpr std::u16string_view inlines[] = {
     u"[e](f)",
     u"[g](<h i> \"j\")",
     u"![k](l 'm')",
+    u"![n](<o>)",
     u"[*n](o*)",
     u"[A b]",
     u"[^a]",
@@ -226,6 +227,8 @@ constexpr std::u16string_view pieces[] = {
 constexpr std::u16string_view blocks[] = {
     u"---\nk: v\n---\n",
     u"---\n...\n",
+    u"```\na\n```\n",
+    u"$$\na\n\n$$\n",
     u"| a | b |\n|--:|---|\n| *c* | d |\n",
     u"# f <!-- {\"fold\":true} -->\na\n\n## g\n",
     u"- f <!-- {\"fold\":true} -->\n\n  a\n  - b\n",
