@@ -67,9 +67,10 @@ bool matchSingleMarkerTag(GoLines& go) {
     step(go);
     const std::int64_t start = go.pos();
     std::int64_t end = start;
-    while (!isAtEnd(go) && !endsTag(go)) {
+    while (!isAtEnd(go)) {
         const char16_t c = go.unsafePeekNextCharacter();
         if (c == u'#' || go.pos() - start > longest) return false;
+        if (endsTag(go)) break;
         if (c == u'\\') {
             stepOverEscape(go);
             continue;

@@ -27,7 +27,7 @@ bool isSchemeCharacter(char32_t c) {
 void matchPreviousProtocol(Go& go) {
     const std::int64_t end = go.pos();
     go.previousMatch(isSchemeCharacter, 1, longestProtocol);
-    go.nextWhile([](char32_t c) { return !HtmlSyntax::isLetter(c); });
+    go.nextWhile([](char32_t c) { return !HtmlSyntax::isLetter(c); }, end - go.pos());
     if (go.pos() >= end) go.setPos(Go::NoPos);
 }
 
@@ -59,6 +59,13 @@ bool goesOn(const Go& go) {
     if (!go.isNext(Go::character(u'.'))) return false;
     return go.pos() + 1 < go.maxPos() && !go.isWithOffset(1, Go::unicodePunctuation) &&
            !go.isWithOffset(1, Go::unicodeWhitespace);
+}
+
+/// Whether a node lies across the start, which the address would cross. To be asked before text is scanned
+/// for it.
+bool isInsideNode(const InlineParserNode& parser, const Node* parent, std::int64_t start) {
+    const Node* const child = parser.childAt(parent, start);
+    return child && child->offsetWhenParsed < start;
 }
 
 /// The labels that are there; there may be none.
@@ -101,12 +108,6 @@ std::int64_t addInline(InlineParserNode& parser, Node* parent, const GoLines& cu
 void Url::beforeParseNode(InlineParserNode&) {
     chain_ = {};
     path_ = {};
-    addressStart_ = addressEnd_ = Go::NoPos;
-}
-
-void Url::clearRange(InlineParserNode&, std::int64_t start, std::int64_t end) {
-    addressStart_ = start;
-    addressEnd_ = end;
 }
 
 std::int64_t Url::match(InlineParserNode& parser, Node* node, GoLines cursor) {
@@ -119,8 +120,8 @@ std::int64_t Url::matchWithProtocol(InlineParserNode& parser, Node* node, const 
     Go protocol = colon;
     matchPreviousProtocol(protocol);
     if (protocol.hasFailed() || !AddressSyntax::isValidLeftContext(protocol)) return Go::NoPos;
-    if (isInsideAddress(protocol.pos())) return Go::NoPos; // it would cross that one
-    const std::int64_t slash = colon.pos() + 2;            // the second one
+    if (isInsideNode(parser, node, protocol.pos())) return Go::NoPos;
+    const std::int64_t slash = colon.pos() + 2; // the second one
     Go go = colon;
     go.setPos(slash + 1);
     AddressSyntax::matchNextUser(go);
@@ -144,7 +145,7 @@ std::int64_t Url::matchWithoutProtocol(InlineParserNode& parser, Node* node, con
     if (chain_.count == 0 || goesOn(go) || !hasRightCase(tld) || !isKnownDomain(tld, go, chain_))
         return Go::NoPos;
     const std::int64_t start = startOfAddress(dot, chain_);
-    if (start == Go::NoPos || isInsideAddress(start)) return Go::NoPos;
+    if (start == Go::NoPos || isInsideNode(parser, node, start)) return Go::NoPos;
     AddressSyntax::matchNextPort(go);
     AddressSyntax::matchNextPath(go, path_);
     if (!AddressSyntax::isValidRightContext(go)) return Go::NoPos;

@@ -16,18 +16,13 @@ public:
     std::string_view type_name() const override { return "Url"; }
     std::int64_t match(InlineParserNode& parser, Node* node, GoLines cursor) override;
     void beforeParseNode(InlineParserNode& parser) override;
-    /// Only addresses take ranges, each the one of its node.
-    void clearRange(InlineParserNode& parser, std::int64_t start, std::int64_t end) override;
 
 private:
     std::int64_t matchWithProtocol(InlineParserNode& parser, Node* node, const GoLines& colon);
     std::int64_t matchWithoutProtocol(InlineParserNode& parser, Node* node, const GoLines& dot);
-    bool isInsideAddress(std::int64_t start) const { return start > addressStart_ && start < addressEnd_; }
 
     AddressSyntax::DomainChain chain_; ///< in front of the last dot of the node
     AddressSyntax::LastPath path_;
-    std::int64_t addressStart_ = Go::NoPos; ///< of the last address, with or without a protocol
-    std::int64_t addressEnd_ = Go::NoPos;
 };
 
 class CORVANE_EXPORT UrlNode : public Node {

@@ -93,7 +93,10 @@ Node* InlineParserNode::mergeInline(Node* node, std::unique_ptr<Node> subtree) {
 }
 
 Node* InlineParserNode::childAt(const Node* node, std::int64_t offset) const {
-    Node* child = merged_ && merged_->offsetWhenParsed <= offset ? merged_ : node->firstChild;
+    Node* child = merged_;
+    while (child && child->offsetWhenParsed > offset)
+        child = child->previousSibling;
+    if (!child) child = node->firstChild;
     while (child && child->endWhenParsed() <= offset)
         child = child->nextSibling;
     return child && child->offsetWhenParsed <= offset ? child : nullptr;

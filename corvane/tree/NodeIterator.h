@@ -101,7 +101,7 @@ public:
     void startOfLine();
     /// To the line ending, or to the end of the document.
     void endOfLine();
-    /// To the end of what stands before the line ending.
+    /// To the end of what stands before the line ending; on an empty line the position stays.
     void endOfLineBeforeLineBreak();
 
     // Ancestors, by Node::ancestorWhere(). The cursor moves onto what it finds, and is nullified when there
