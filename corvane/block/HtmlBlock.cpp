@@ -92,7 +92,7 @@ bool startsBlockTag(Go go, End& end) {
 /// A tag that is alone on its line, and none of those that hold literal text.
 bool startsTagLine(const BlockParser& parser, std::int64_t line, End& end) {
     GoLines go(parser.text, parser.lines, line, line);
-    Go name = go;
+    Go name = go.onLine();
     name.setPos(name.pos() + 1);
     name.nextWhile(Go::character(u'/'), 1);
     if (isLiteralName(takeName(name, longestName))) return false;

@@ -60,12 +60,12 @@ void matchBracket(Go& go) {
 std::int64_t Autolink::match(InlineParserNode& parser, Node* node, GoLines cursor) {
     const std::int64_t start = cursor.pos();
     cursor.setPos(start + 1);
-    Go go = cursor;
+    Go go = cursor.onLine();
     matchUri(go);
     matchBracket(go);
     const bool isAddress = go.hasFailed();
     if (isAddress) {
-        go = cursor;
+        go = cursor.onLine();
         matchEmail(go);
         matchBracket(go);
         if (go.hasFailed()) return Go::NoPos;

@@ -33,14 +33,14 @@ void Email::beforeParseNode(InlineParserNode&) {
 }
 
 std::int64_t Email::match(InlineParserNode& parser, Node* node, GoLines cursor) {
-    Go go = cursor;
+    Go go = cursor.onLine();
     go.setPos(cursor.pos() + 1);
     if (go.pos() == go.maxPos() || go.isNext(Go::character(u' '))) return Go::NoPos;
     AddressSyntax::matchNextUnicodeDomain(go);
     if (go.hasFailed() || go.isNext(at)) return Go::NoPos;
     chain_ = AddressSyntax::DomainChain::before(cursor, chain_);
     if (chain_.count == 0) return Go::NoPos;
-    Go domain = cursor;
+    Go domain = cursor.onLine();
     domain.setPos(chain_.start);
     const std::int64_t start = startOfLocalPart(domain);
     if (start == Go::NoPos) return Go::NoPos;

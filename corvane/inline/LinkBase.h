@@ -34,7 +34,7 @@ public:
 
 protected:
     /// The child of that type, with its offset when this node stands at `offset`.
-    std::pair<const Node*, std::int64_t> childOfType(NodeType type, std::int64_t offset) const;
+    std::pair<const Node*, std::int64_t> childOfType(NodeType wanted, std::int64_t offset) const;
     void addDestination(std::u16string& out) const;
     /// The attribute with a space in front; nothing for an empty title.
     void addTitle(std::u16string& out) const;
@@ -58,6 +58,7 @@ public:
         bool hasBrackets = false; ///< in its text, so that the text is no label that could be defined
     };
     class OpenerStack;
+    ~LinkBase() override;
     /// An empty stack, for both rules.
     static std::shared_ptr<OpenerStack> makeOpenerStack();
 
@@ -72,7 +73,6 @@ public:
 protected:
     LinkBase(Kind kind, std::u16string_view triggers, std::shared_ptr<OpenerStack> openers,
              std::shared_ptr<Block::LinkReferenceDefinition> definitions);
-    ~LinkBase() override;
 
     std::int64_t open(const GoLines& go, std::int64_t length);
     /// At a "]": makes the node of the innermost opener, if that is of this kind and a link can be made.
@@ -95,7 +95,7 @@ private:
     bool isLabel(std::u16string_view text, const LinkSyntax::Span& span) const;
     std::unique_ptr<LinkBaseNode> makeNode(const InlineParserNode& parser, const Opener& opener,
                                            const LinkSyntax::Span& text, const GoLines& end);
-    static void removeHashtagsAndUrlsInSubtree(Node* node);
+    static void removeHashtagsAndUrlsInSubtree(Node* top);
 
     Kind kind_;
     std::shared_ptr<OpenerStack> openers_;

@@ -81,7 +81,7 @@ void matchDomain(Go& go) {
 
 /// Where the address starts; NoPos when it can't start there.
 std::int64_t startOfAddress(const GoLines& cursor, const DomainChain& chain) {
-    Go go = cursor;
+    Go go = cursor.onLine();
     go.setPos(chain.start);
     const std::int64_t user = AddressSyntax::startOfPreviousUser(go);
     if (user == Go::NoPos && go.isPrevious(Go::character(u'@'))) return Go::NoPos;
@@ -117,12 +117,12 @@ std::int64_t Url::match(InlineParserNode& parser, Node* node, GoLines cursor) {
 
 std::int64_t Url::matchWithProtocol(InlineParserNode& parser, Node* node, const GoLines& colon) {
     if (!colon.isNextString(u"://")) return Go::NoPos;
-    Go protocol = colon;
+    Go protocol = colon.onLine();
     matchPreviousProtocol(protocol);
     if (protocol.hasFailed() || !AddressSyntax::isValidLeftContext(protocol)) return Go::NoPos;
     if (isInsideNode(parser, node, protocol.pos())) return Go::NoPos;
     const std::int64_t slash = colon.pos() + 2; // the second one
-    Go go = colon;
+    Go go = colon.onLine();
     go.setPos(slash + 1);
     AddressSyntax::matchNextUser(go);
     matchDomain(go);
@@ -135,7 +135,7 @@ std::int64_t Url::matchWithProtocol(InlineParserNode& parser, Node* node, const 
 }
 
 std::int64_t Url::matchWithoutProtocol(InlineParserNode& parser, Node* node, const GoLines& dot) {
-    Go go = dot;
+    Go go = dot.onLine();
     go.setPos(dot.pos() + 1);
     if (go.pos() == go.maxPos() || go.isNext(Go::character(u' '))) return Go::NoPos;
     AddressSyntax::matchNextUnicodeDomain(go);

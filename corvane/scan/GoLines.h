@@ -8,10 +8,8 @@ namespace Ondo {
 /// Tells whether a table's lines may be read, which a container rewrites only when they are asked for.
 class CORVANE_EXPORT LineSource {
 public:
+    virtual ~LineSource() = default;
     virtual bool hasLine(std::int64_t line) = 0;
-
-protected:
-    ~LineSource() = default;
 };
 
 /// A Go that sees only the content of a run of lines: container prefixes, indentation, trailing blanks and
@@ -30,6 +28,13 @@ public:
 
     std::int64_t currentLine() const { return currentLine_; }
     std::int64_t lastLine() const { return lastLine_; }
+
+    /// A cursor at the same place that knows only the current line.
+    Go onLine() const {
+        Go go(text, minPos_, maxPos_);
+        go.setPos(pos_);
+        return go;
+    }
 
     /// Jumps to `offset`. Fails when it lies outside the limits or in no line's content, such as inside an
     /// indentation or a container's prefix.

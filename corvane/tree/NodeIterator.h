@@ -25,8 +25,8 @@ public:
     std::int64_t line = 0;       ///< its start line
     std::int64_t level = 0;      ///< its depth, 0 for the document
 
-    /// At the start of `node`, in the tree that `markdown` was parsed to.
-    NodeIterator(std::u16string_view markdown, Node* node);
+    /// At the start of the node, in the tree that `markdown` was parsed to.
+    NodeIterator(std::u16string_view markdown, Node* at);
 
     Node* get() const { return node; }
     Node& operator*() const { return *node; }
