@@ -73,7 +73,7 @@ void matchAttributeValue(GoLines& go) {
 }
 
 /// The part from "=" on, which may be missing.
-void matchAttributeValueSpecification(GoLines& go) {
+void matchAttributeValueSpec(GoLines& go) {
     GoLines tried = go;
     matchOptionalSpacing(tried);
     if (!tried.isNext(Go::character(u'='))) return;
@@ -87,7 +87,7 @@ void matchAttributeValueSpecification(GoLines& go) {
 void matchAttributes(GoLines& go) {
     while (matchRequiredSpacing(go) && go.isNext(isAttributeNameStart)) {
         go.nextWhile(isAttributeNameCharacter);
-        matchAttributeValueSpecification(go);
+        matchAttributeValueSpec(go);
     }
 }
 
