@@ -109,6 +109,10 @@ inline constexpr Hostile hostileUnits[] = {
     {u"a:b@c.com", u""},
     {u"www.", u""},
     {u"http://a.b/?=", u""},
+    {u"+://", u""},
+    {u"a@b.http://()", u""},
+    {u"#ffffff.b://,", u""},
+    {u"(\\_x:y@a.com/[]", u""},
     // tags, colours, arrows
     {u"#", u""},
     {u"#a", u""},
