@@ -29,10 +29,6 @@ Go contentOf(const BlockParser& parser, std::int64_t line) {
     return {parser.text, l.contentStart, l.contentEnd};
 }
 
-bool isAtEnd(const Go& go) {
-    return go.pos() == go.maxPos();
-}
-
 /// A cell of the delimiter row and the pipe behind it.
 struct DelimiterCell {
     std::int64_t start; ///< of the colons and dashes
@@ -59,7 +55,7 @@ DelimiterCell matchDelimiterCell(Go& go) {
 std::vector<DelimiterCell> matchDelimiterRow(Go go) {
     std::vector<DelimiterCell> cells;
     go.nextMatch(pipe, 1, 1);
-    while (!go.hasFailed() && !isAtEnd(go))
+    while (!go.hasFailed() && !go.isAtEnd())
         cells.push_back(matchDelimiterCell(go));
     if (go.hasFailed()) cells.clear();
     return cells;
@@ -71,7 +67,7 @@ bool isRow(Go go, std::size_t columns) {
     if (go.hasFailed()) return false;
     while (columns > 0 && Table::matchColumn(go))
         --columns;
-    return columns == 0 && isAtEnd(go);
+    return columns == 0 && go.isAtEnd();
 }
 
 void linkRowEnd(const BlockParser& parser, Node* row, std::int64_t number) {
@@ -139,7 +135,7 @@ bool Table::matchColumn(Go& cursor) {
     Go go = cursor;
     while (true) {
         go.nextWhile(Go::no(Go::characterAnyOf(u"/|")));
-        if (isAtEnd(go)) return false;
+        if (go.isAtEnd()) return false;
         const bool isSlash = go.isNext(Go::character(u'/'));
         if (!isSlash && !isNextCharacterEscaped(go)) break;
         go.setPos(go.pos() + (isSlash ? 2 : 1));

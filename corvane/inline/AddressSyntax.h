@@ -3,10 +3,16 @@
 #include <cstdint>
 
 #include "corvane/scan/GoLines.h"
+#include "corvane/scan/HtmlSyntax.h"
 
 /// The pieces of bare addresses. Offsets are UTF-16 code units.
 
 namespace Ondo::Inline::AddressSyntax {
+
+/// In the scheme of a URI, behind its first letter.
+constexpr bool isSchemeCharacter(char32_t c) {
+    return HtmlSyntax::isLetterOrDigit(c) || c == U'+' || c == U'.' || c == U'-';
+}
 
 /// Takes a label of a domain: no whitespace, logograms or punctuation but "-", which stands at neither end.
 /// Fails when there is none.

@@ -1,5 +1,6 @@
 #include "corvane/inline/Autolink.h"
 
+#include "corvane/inline/AddressSyntax.h"
 #include "corvane/scan/HtmlSyntax.h"
 #include "corvane/scan/Util.h"
 #include "corvane/tree/InlineParser.h"
@@ -8,11 +9,9 @@ namespace Ondo::Inline {
 
 namespace {
 
-constexpr std::int64_t longestLabel = 63;
+using AddressSyntax::isSchemeCharacter;
 
-bool isSchemeCharacter(char32_t c) {
-    return HtmlSyntax::isLetterOrDigit(c) || c == U'+' || c == U'.' || c == U'-';
-}
+constexpr std::int64_t longestLabel = 63;
 
 bool isUriCharacter(char32_t c) {
     return c > U' ' && c != 0x7F && c != U'<' && c != U'>';

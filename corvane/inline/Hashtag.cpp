@@ -10,20 +10,6 @@ namespace {
 
 constexpr std::int64_t longest = 500; ///< distance of a tag's last character from its first
 
-void step(GoLines& go) {
-    go.setPos(go.pos() + 1);
-}
-
-bool isAtEnd(const GoLines& go) {
-    return go.pos() == go.maxPos();
-}
-
-/// Over an escape; the character behind the backslash may be missing.
-void stepOverEscape(GoLines& go) {
-    step(go);
-    if (!isAtEnd(go)) step(go);
-}
-
 /// What closes may not stand behind any of these, which would rather open something.
 bool isBehindOpening(const GoLines& go) {
     return go.isPrevious(Go::unicodeWhitespace) || go.isPrevious(Go::unicodeOpenPunctuation) ||
@@ -33,20 +19,20 @@ bool isBehindOpening(const GoLines& go) {
 /// From the "#" to behind the one that closes.
 bool matchDoubleMarkerTag(GoLines& go) {
     if (go.isPrevious(Go::characterAnyOf(u"#*_="))) return false;
-    step(go);
+    go.step();
     if (go.isNext(Go::unicodeWhitespace)) return false;
     const std::int64_t start = go.pos();
-    while (!isAtEnd(go) && !go.isNext(Go::character(u'#'))) {
+    while (!go.isAtEnd() && !go.isNext(Go::character(u'#'))) {
         if (go.isNext(Go::characterAnyOf(u"[]")) || go.isNextCaseInsensitiveString(u"<br>") ||
             go.pos() - start > longest)
             return false;
         if (go.isNext(Go::character(u'\\')))
             stepOverEscape(go);
         else
-            step(go);
+            go.step();
     }
-    if (isAtEnd(go) || go.pos() == start || isBehindOpening(go)) return false;
-    step(go);
+    if (go.isAtEnd() || go.pos() == start || isBehindOpening(go)) return false;
+    go.step();
     return !go.isNext(Go::character(u'#'));
 }
 
@@ -64,10 +50,10 @@ bool endsTag(const GoLines& go) {
 /// From the "#" to behind the last character that is no punctuation. What a backslash escapes counts as some.
 bool matchSingleMarkerTag(GoLines& go) {
     if (!hasOpenLeft(go) || go.isPrevious(Go::character(u'#'))) return false;
-    step(go);
+    go.step();
     const std::int64_t start = go.pos();
     std::int64_t end = start;
-    while (!isAtEnd(go)) {
+    while (!go.isAtEnd()) {
         const char16_t c = go.unsafePeekNextCharacter();
         if (c == u'#' || go.pos() - start > longest) return false;
         if (endsTag(go)) break;
@@ -75,7 +61,7 @@ bool matchSingleMarkerTag(GoLines& go) {
             stepOverEscape(go);
             continue;
         }
-        step(go);
+        go.step();
         if (c == u'/' || !Go::unicodePunctuation(c)) end = go.pos();
     }
     go.setPos(end);

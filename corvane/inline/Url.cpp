@@ -12,16 +12,13 @@ namespace Ondo::Inline {
 namespace {
 
 using AddressSyntax::DomainChain;
+using AddressSyntax::isSchemeCharacter;
 
 constexpr std::int64_t longestProtocol = 50;
 constexpr std::size_t longestTld = 16; ///< longer than any in the tables
 
 /// Domains of countries that are better known as endings of file names.
 constexpr std::u16string_view fileEndings[] = {u"pl", u"py", u"tk", u"ml", u"md", u"sh", u"cc"};
-
-bool isSchemeCharacter(char32_t c) {
-    return HtmlSyntax::isLetterOrDigit(c) || c == U'+' || c == U'.' || c == U'-';
-}
 
 /// Backwards to the first letter of a protocol.
 void matchPreviousProtocol(Go& go) {

@@ -19,20 +19,16 @@ struct Pieces {
 
 enum class Part { Title, Header, Alias };
 
-void step(GoLines& go) {
-    go.setPos(go.pos() + 1);
-}
-
 /// Stops before what ends the part, which at worst is the line. False at a second "[".
 bool scan(GoLines& go, Part part, bool escapedPipeIsSeparator) {
-    for (; go.pos() != go.maxPos(); step(go)) {
+    for (; go.pos() != go.maxPos(); go.step()) {
         const char16_t c = go.unsafePeekNextCharacter();
         if (c == u'[' && go.isPrevious(Go::character(u'['))) return false;
         if (c == u']' && go.isWithOffset(1, Go::character(u']'))) return true;
         if (c == u'/' && part == Part::Title) return true;
         if (part != Part::Alias && (c == u'|' || (escapedPipeIsSeparator && go.isNextString(u"\\|"))))
             return true;
-        if (c == u'\\' && go.pos() + 1 < go.maxPos()) step(go);
+        if (c == u'\\' && go.pos() + 1 < go.maxPos()) go.step();
     }
     return true;
 }
@@ -43,13 +39,13 @@ bool matchPieces(GoLines& go, bool escapedPipeIsSeparator, Pieces& pieces) {
     if (!scan(go, Part::Title, escapedPipeIsSeparator)) return false;
     if (go.isNext(Go::character(u'/'))) {
         pieces.slash = go.pos();
-        step(go);
+        go.step();
         if (!scan(go, Part::Header, escapedPipeIsSeparator)) return false;
     }
     pieces.targetEnd = go.pos();
-    if (go.isNext(Go::character(u'\\'))) step(go);
+    if (go.isNext(Go::character(u'\\'))) go.step();
     if (go.isNext(Go::character(u'|'))) {
-        step(go);
+        go.step();
         pieces.aliasStart = go.pos();
         if (!scan(go, Part::Alias, false)) return false;
     }

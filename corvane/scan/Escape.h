@@ -12,4 +12,10 @@ inline bool isNextCharacterEscaped(Go go) {
     return (at - go.previousWhile(Go::character(u'\\'))) % 2 != 0;
 }
 
+/// Over a backslash and the character whose power it takes, which may be missing at the end of the range.
+inline void stepOverEscape(Go& go) {
+    go.step();
+    if (!go.isAtEnd()) go.step();
+}
+
 } // namespace Ondo

@@ -80,6 +80,11 @@ public:
         return unit(pos_ - 1);
     }
 
+    /// At the upper bound, where there is nothing to read.
+    bool isAtEnd() const { return pos_ == maxPos_; }
+    /// Over one code unit, which the caller knows is there.
+    void step() { ++pos_; }
+
     /// The predicate on the code unit at `offset` from the position; false when that is not readable.
     template <class P>
     bool isWithOffset(std::int64_t offset, P predicate) const {

@@ -1,6 +1,7 @@
 #include "corvane/tree/InlineParser.h"
 
 #include "corvane/scan/Assert.h"
+#include "corvane/scan/HtmlSyntax.h"
 
 namespace Ondo {
 
@@ -16,17 +17,15 @@ GoLines contentCursor(const Node* node, std::u16string_view text, const Lines& l
             node->endWhenParsed()};
 }
 
-constexpr bool isLetter(char16_t c) {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-}
-
 /// The next position that may open a construct, behind the cursor's. A letter opens none behind a letter.
 std::int64_t nextOpening(const Go& cursor, std::u16string_view text, const InlineRuleMap& rules) {
     const char16_t* const units = text.data();
     const std::int64_t end = cursor.maxPos();
     std::int64_t at = cursor.pos() + 1;
     for (; at < end; ++at)
-        if (!rules.isUnused(units[at]) && !(isLetter(units[at]) && isLetter(units[at - 1]))) break;
+        if (!rules.isUnused(units[at]) &&
+            !(HtmlSyntax::isLetter(units[at]) && HtmlSyntax::isLetter(units[at - 1])))
+            break;
     return at;
 }
 

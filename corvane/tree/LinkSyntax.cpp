@@ -1,5 +1,6 @@
 #include "corvane/tree/LinkSyntax.h"
 
+#include "corvane/scan/Escape.h"
 #include "corvane/tree/Common.h"
 
 namespace Ondo::LinkSyntax {
@@ -10,25 +11,11 @@ bool isStop(char32_t c) {
     return c < 33 || c == 127;
 }
 
-void step(GoLines& go) {
-    go.setPos(go.pos() + 1);
-}
-
-bool isAtEnd(const GoLines& go) {
-    return go.pos() == go.maxPos();
-}
-
-/// Over a backslash and the character whose power it takes.
-void stepOverEscape(GoLines& go) {
-    step(go);
-    if (!isAtEnd(go)) step(go);
-}
-
 /// To the next line. A line with nothing on it ends all that could be crossed.
 bool crossLine(GoLines& go) {
     const std::int64_t line = go.currentLine();
     go.nextWhileLineEnding(1);
-    return go.currentLine() != line && !isAtEnd(go);
+    return go.currentLine() != line && !go.isAtEnd();
 }
 
 void fail(GoLines& go) {
@@ -46,7 +33,7 @@ Span matchUpTo(GoLines& go, char16_t close, char16_t open, bool& isBlank) {
     Span span{go.pos(), Go::NoPos, go.currentLine(), 0};
     isBlank = true;
     while (true) {
-        if (isAtEnd(go)) {
+        if (go.isAtEnd()) {
             if (crossLine(go)) continue;
             break;
         }
@@ -60,27 +47,27 @@ Span matchUpTo(GoLines& go, char16_t close, char16_t open, bool& isBlank) {
         if (c == u'\\')
             stepOverEscape(go);
         else
-            step(go);
+            go.step();
     }
     fail(go);
     return span;
 }
 
 Destination matchBracketed(GoLines& go) {
-    step(go);
+    go.step();
     Destination destination{{go.pos(), Go::NoPos, go.currentLine(), go.currentLine()}, true};
-    while (!isAtEnd(go)) {
+    while (!go.isAtEnd()) {
         const char16_t c = go.unsafePeekNextCharacter();
         if (c == u'<') break;
         if (c == u'>') {
             finish(destination.span, go);
-            step(go);
+            go.step();
             return destination;
         }
         if (c == u'\\')
             stepOverEscape(go);
         else
-            step(go);
+            go.step();
     }
     fail(go);
     return destination;
@@ -93,7 +80,7 @@ char16_t closerOf(char16_t opener) {
 } // namespace
 
 Destination matchDestination(GoLines& go) {
-    if (go.hasFailed() || isAtEnd(go)) {
+    if (go.hasFailed() || go.isAtEnd()) {
         fail(go);
         return {};
     }
@@ -104,13 +91,13 @@ Destination matchDestination(GoLines& go) {
 Span matchBareDestination(GoLines& go) {
     Span span{go.pos(), Go::NoPos, go.currentLine(), go.currentLine()};
     std::int64_t open = 0;
-    for (; !isAtEnd(go); step(go)) {
+    for (; !go.isAtEnd(); go.step()) {
         const char16_t c = go.unsafePeekNextCharacter();
         if (isStop(c) || (c == u')' && open == 0)) break;
         if (c == u'(') ++open;
         if (c == u')') --open;
         // The backslash stays in the destination, the space does not.
-        if (c == u'\\' && go.isWithOffset(1, Go::no(Go::character(u' ')))) step(go);
+        if (c == u'\\' && go.isWithOffset(1, Go::no(Go::character(u' ')))) go.step();
     }
     finish(span, go);
     return span;
@@ -119,10 +106,10 @@ Span matchBareDestination(GoLines& go) {
 Title matchTitle(GoLines& go) {
     if (!go.isNext(Go::characterAnyOf(u"\"'("))) return {};
     const char16_t opener = go.unsafePeekNextCharacter();
-    step(go);
+    go.step();
     bool isBlank = false;
     const Title title{matchUpTo(go, closerOf(opener), opener == u'(' ? opener : u'\0', isBlank), true};
-    if (!go.hasFailed()) step(go);
+    if (!go.hasFailed()) go.step();
     return title;
 }
 
@@ -131,11 +118,11 @@ Span matchLabel(GoLines& go) {
         fail(go);
         return {};
     }
-    step(go);
+    go.step();
     bool isBlank = false;
     const Span label = matchUpTo(go, u']', u'[', isBlank);
     if (isBlank) fail(go);
-    if (!go.hasFailed()) step(go);
+    if (!go.hasFailed()) go.step();
     return label;
 }
 

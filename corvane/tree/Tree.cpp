@@ -144,11 +144,9 @@ std::vector<Range> Tree::replace(Range range, std::u16string_view replacement) {
     markdown_.replace(range, replacement);
     parseFragment(region);
     region.changesLabels = changesDefinedLabels(region);
-    if (region.changesLabels || needFullReparse(region, range.offset, inserted))
+    if (region.changesLabels || needFullReparse(region, range.offset, inserted)) {
         widenToDocument(region);
-    else
-        widen(region);
-    if (!region.changesLabels && changesDefinedLabels(region)) {
+    } else if (widen(region) && changesDefinedLabels(region)) {
         // What the region has grown by can hold definitions, too.
         region.changesLabels = true;
         widenToDocument(region);
@@ -221,20 +219,22 @@ void Tree::widenToDocument(Region& region) {
 
 /// Takes in the blocks behind the region that its last block has grown into: a list item that now reaches
 /// past the next block, an indented block that a paragraph above takes in. Steps double, so that the whole
-/// costs no more than a few parses of what has to be parsed anyway.
-void Tree::widen(Region& region) {
+/// costs no more than a few parses of what has to be parsed anyway. True when the region has grown.
+bool Tree::widen(Region& region) {
     const auto isAligned = [&region] {
         // A blank line at the end of the fragment may be an item's that goes on behind it.
         return !isBlank(region.endNode.node) && !looksBehindEnd(region.fragment.get()) &&
                hasBlockStartingAt(region.fragment.get(),
                                   region.endNode.offset + region.delta - region.startNode.offset);
     };
-    for (std::int64_t steps = 1; region.endNode->nextSibling && !isAligned(); steps *= 2) {
+    std::int64_t steps = 1;
+    for (; region.endNode->nextSibling && !isAligned(); steps *= 2) {
         for (std::int64_t step = 0; step < steps; ++step)
             toEndOfRegion(region.endNode);
         region.fragment.reset();
         parseFragment(region);
     }
+    return steps > 1;
 }
 
 std::vector<Range> Tree::patch(Region& region, const Range& range) {

@@ -98,7 +98,7 @@ private:
     std::vector<Range> loadText();
     Region regionForReparse(const Range& range) const;
     void parseFragment(Region& region);
-    void widen(Region& region);
+    bool widen(Region& region);
     void widenToDocument(Region& region);
     bool needFullReparse(const Region& region, std::int64_t offset, std::int64_t inserted) const;
     bool changesDefinedLabels(const Region& region) const;
