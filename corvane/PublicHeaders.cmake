@@ -79,4 +79,24 @@ set(CORVANE_PUBLIC_HEADERS
     inline/Segments.h
     inline/UnderlineStrikethrough.h
     inline/Url.h
-    inline/Wikilink.h)
+    inline/Wikilink.h
+    client/AttributeRuns.h
+    client/CVNAST.h
+    client/CVNASTAnnotation.h
+    client/CVNASTNode.h
+    client/CVNASTNodes.h
+    client/CVNASTQuery.h
+    client/CVNASTStyling.h
+    client/CVNASTTextOperations.h
+    client/CVNArchive.h
+    client/CVNAttributeName.h
+    client/CVNAttributedString.h
+    client/CVNInlineStyle.h
+    client/CVNListInfo.h
+    client/CVNMetadata.h
+    client/CVNNestableValue.h
+    client/CVNRange.h
+    client/CVNValue.h
+    client/FilenameMatch.h
+    client/OndoString.h
+    client/StringBuilder.h)

@@ -35,6 +35,15 @@ bool isBlankOrBreak(const Node* node) {
            node->type == ONDO_HARD_LINE_BREAK_NODE || node->type == ONDO_HARD_LINE_BREAK_MARKER_NODE;
 }
 
+/// From the start of an ancestor to a node.
+std::int64_t offsetIn(const Node* ancestor, const Node* node) {
+    std::int64_t offset = 0;
+    for (; node != ancestor; node = node->parent)
+        for (const Node* before = node->previousSibling; before; before = before->previousSibling)
+            offset += before->charCount;
+    return offset;
+}
+
 } // namespace
 
 std::int64_t Callout::match(BlockParser& parser, std::int64_t line, std::int64_t, Node* parent,
@@ -66,7 +75,7 @@ std::u16string_view CalloutHeadNode::calloutTypeString() const {
     return number < std::size(words) ? words[number] : std::u16string_view();
 }
 
-Range CalloutHeadNode::titleRange() const {
+Range CalloutHeadNode::titleRangeFrom(std::int64_t headOffset) const {
     const Node* first = firstChild;
     while (first && (first->category == Category::Space || isBlockMarker(first)))
         first = first->nextSibling;
@@ -77,9 +86,9 @@ Range CalloutHeadNode::titleRange() const {
     while (last != this && isBlankOrBreak(last))
         last = last->previousInSequence();
     if (last == this) return {};
-    const std::int64_t start = first->startOffset();
-    const std::int64_t end = last->endOffset();
-    return end > start ? Range{start, end - start} : Range{};
+    const std::int64_t start = offsetIn(this, first);
+    const std::int64_t end = offsetIn(this, last) + last->charCount;
+    return end > start ? Range{headOffset + start, end - start} : Range{};
 }
 
 std::u16string_view CalloutHeadNode::title(std::u16string_view markdown) const {

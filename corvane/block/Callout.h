@@ -27,7 +27,9 @@ public:
     /// The word in capitals; empty for a value that is no type.
     std::u16string_view calloutTypeString() const;
     /// The title in the document; empty when there is none.
-    Range titleRange() const;
+    Range titleRange() const { return titleRangeFrom(startOffset()); }
+    /// The same, for who knows where the head starts, or counts from elsewhere.
+    Range titleRangeFrom(std::int64_t headOffset) const;
     /// The title in `markdown`, the whole document.
     std::u16string_view title(std::u16string_view markdown) const;
 

@@ -21,6 +21,9 @@ public:
 
     AutolinkNode(std::int64_t offset, std::int64_t end, std::int64_t line)
         : Node(ONDO_AUTOLINK_NODE, offset, end, line, 0) {}
+    /// An e-mail address without "mailto:", which only the destination has.
+    bool isAddress() const { return static_cast<std::int64_t>(destination.size()) > charCount - 2; }
+
     std::u16string toIndentedTree() const override;
     void toHtml(std::u16string& out, std::u16string_view markdown, std::int64_t offset) const override;
     bool hasEqualData(const Node& other) const override;

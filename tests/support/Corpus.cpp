@@ -16,6 +16,7 @@ namespace {
 constexpr std::string_view caseMark = "=== ";
 constexpr std::string_view treeMark = "--- tree";
 constexpr std::string_view htmlMark = "--- html";
+constexpr std::string_view runsMark = "--- runs";
 
 constexpr struct {
     std::string_view visible;
@@ -32,7 +33,7 @@ std::string withMeantCharacters(std::string text) {
 }
 
 bool isSection(std::string_view line) {
-    return line.starts_with(treeMark) || line.starts_with(htmlMark);
+    return line.starts_with(treeMark) || line.starts_with(htmlMark) || line.starts_with(runsMark);
 }
 
 /// Reads one file, line by line.
@@ -77,7 +78,9 @@ private:
     }
 
     void readSection(CorpusCase& result) {
-        auto& expectations = line_.starts_with(treeMark) ? result.trees : result.html;
+        auto& expectations = line_.starts_with(treeMark)   ? result.trees
+                             : line_.starts_with(htmlMark) ? result.html
+                                                           : result.runs;
         std::istringstream names(line_.substr(treeMark.size()));
         std::string name;
         std::vector<RuleConfig::RuleSet> sets;

@@ -21,9 +21,9 @@
 ///     --- html
 ///     <h1>a</h1>
 ///
-/// A case has a name, a text, and at least one tree or HTML. These hold in the rule sets that are named
-/// behind them, or, with no name, in all that no other section of the kind names. What stands before the
-/// first case is commentary. Blank lines at the end of a tree or HTML don't count.
+/// A case has a name, a text, and at least one tree, HTML or list of attribute runs. These hold in the rule
+/// sets that are named behind them, or, with no name, in all that no other section of the kind names. What
+/// stands before the first case is commentary. Blank lines at the end of a section don't count.
 ///
 /// Some characters may be written visibly: → a tab, ␠ a space, ␍ a CR, ␀ a NUL. A text ends with the LF of
 /// its last line, unless ␄ stands there.
@@ -35,6 +35,7 @@ struct CorpusCase {
     std::u16string text;
     std::array<std::optional<std::string>, 3> trees; ///< by rule set
     std::array<std::optional<std::string>, 3> html;
+    std::array<std::optional<std::string>, 3> runs; ///< as showRuns() has them
 };
 
 /// All corpus files, sorted. Corpus and parts of it live below the folder of the tests.

@@ -1,0 +1,173 @@
+#include "corvane/analysis/TreeSummary.h"
+
+#include <string_view>
+
+#include "corvane/inline/Entity.h"
+#include "corvane/inline/LinkBase.h"
+#include "corvane/inline/RawHtml.h"
+#include "corvane/inline/Wikilink.h"
+#include "corvane/scan/Util.h"
+
+namespace CVN {
+
+namespace {
+
+using namespace Ondo;
+
+/// Whether the link or image around a marker or attribute is a reference without a definition.
+bool isUndefinedReference(const Node* part) {
+    const auto* link = static_cast<const Inline::LinkBaseNode*>(part->maker);
+    return link->isReference && link->connections() == 0;
+}
+
+bool hasAlias(const Node* part) {
+    return !static_cast<const Inline::WikilinkNode*>(part->maker)->alias.empty();
+}
+
+std::u16string_view source(const Node* rawHtml) {
+    return static_cast<const Inline::RawHtmlNode*>(rawHtml)->text;
+}
+
+/// A line break within a table cell.
+bool isCellBreak(const Node* rawHtml) {
+    return source(rawHtml) == u"<br>" && rawHtml->hasAncestorOfType(ONDO_TABLE_CELL_NODE);
+}
+
+/// Cells are followed by a pipe and, but for the last one of a text, by something else.
+bool isFollowed(const Node* cell) {
+    return cell->nextSibling && cell->nextSibling->nextSibling;
+}
+
+/// Where a link leads: a part that the reader does not see.
+bool isTarget(const Node* part) {
+    switch (part->type) {
+    case ONDO_IMAGE_LABEL_ATTRIBUTE_NODE:
+    case ONDO_IMAGE_DESTINATION_ATTRIBUTE_NODE:
+    case ONDO_IMAGE_TITLE_ATTRIBUTE_NODE:
+    case ONDO_LINK_LABEL_ATTRIBUTE_NODE:
+    case ONDO_LINK_DESTINATION_ATTRIBUTE_NODE:
+    case ONDO_LINK_TITLE_ATTRIBUTE_NODE:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether a node's text is part of the title as it stands.
+bool isVerbatim(const Node* node) {
+    switch (node->type) {
+    case ONDO_TEXT_NODE:
+        return !isTarget(node->parent) || isUndefinedReference(node->parent);
+    case ONDO_LINK_TEXT_OPEN_MARKER_NODE:
+    case ONDO_LINK_TEXT_CLOSE_MARKER_NODE:
+    case ONDO_LINK_LABEL_OPEN_MARKER_NODE:
+    case ONDO_LINK_LABEL_CLOSE_MARKER_NODE:
+    case ONDO_IMAGE_TEXT_OPEN_MARKER_NODE:
+    case ONDO_IMAGE_TEXT_CLOSE_MARKER_NODE:
+    case ONDO_IMAGE_LABEL_OPEN_MARKER_NODE:
+    case ONDO_IMAGE_LABEL_CLOSE_MARKER_NODE:
+        return isUndefinedReference(node);
+    case ONDO_HASHTAG_OPEN_MARKER_NODE:
+    case ONDO_HASHTAG_SEPARATOR_MARKER_NODE:
+    case ONDO_HASHTAG_CLOSE_MARKER_NODE:
+        return true;
+    case ONDO_WIKILINK_SEPARATOR_MARKER_NODE:
+        return !hasAlias(node);
+    default:
+        return false;
+    }
+}
+
+/// What stands in the title for a node that is not there as it stands.
+std::u16string substitute(const Node* node) {
+    switch (node->type) {
+    case ONDO_LINE_ENDING_NODE:
+        return u" ";
+    case ONDO_FOOTNOTE_DEFINITION_COLON_MARKER_NODE:
+    case ONDO_LINK_REFERENCE_DEFINITION_COLON_MARKER_NODE:
+        return u":";
+    case ONDO_TABLE_CELL_NODE:
+        return isFollowed(node) ? u" " : u"";
+    case ONDO_RAW_HTML_NODE:
+        return isCellBreak(node) ? u" " : u"";
+    case ONDO_ENTITY_NODE:
+        return static_cast<const Inline::EntityNode*>(node)->toString();
+    default:
+        return {};
+    }
+}
+
+/// Whether nothing within the node is part of the title.
+bool hidesSubtree(const Node* node) {
+    switch (node->type) {
+    case ONDO_ENTITY_NODE:
+    case ONDO_FOOTNOTE_REFERENCE_NODE:
+        return true;
+    case ONDO_RAW_HTML_NODE:
+        return isCellBreak(node) || source(node).starts_with(u"<!-- {");
+    case ONDO_WIKILINK_SEGMENT_ATTRIBUTE_NODE:
+        return hasAlias(node);
+    default:
+        return false;
+    }
+}
+
+std::u16string_view textOf(const Tree& tree, const Node::Iterator& at) {
+    return tree.markdownIn({at.offset, at->charCount});
+}
+
+/// Over a hashtag, or over a space or text without a word. False, with the position as it was, for anything
+/// else.
+bool passInTagLine(const Tree& tree, Node::Iterator& at) {
+    constexpr auto isNoWord = Go::eitherOf(Go::unicodeWhitespace, Go::unicodePunctuation);
+    const bool passes = at->type == ONDO_HASHTAG_NODE || at->type == ONDO_SPACE_NODE ||
+                        (at->type == ONDO_TEXT_NODE && Util::trim(textOf(tree, at), isNoWord).empty());
+    if (passes) at.nextInSequenceSkippingSubtree();
+    return passes;
+}
+
+/// Moves behind the line of a hashtag if the line holds nothing but hashtags. Otherwise false.
+bool passTagLine(const Tree& tree, Node::Iterator& at) {
+    Node::Iterator line = at;
+    line.beginningOfLine();
+    while (line->category < Node::Category::Inline || line->type == ONDO_SPACE_NODE)
+        line.nextInSequence();
+    while (line.node && line->type != ONDO_LINE_ENDING_NODE)
+        if (!passInTagLine(tree, line)) return false;
+    line.nextInSequence();
+    at = line;
+    return true;
+}
+
+/// Without whitespace at the ends, and not longer than `limit`.
+std::u16string finished(std::u16string_view text, std::int64_t limit) {
+    text = Util::trim(text, Go::unicodeWhitespace).substr(0, static_cast<std::size_t>(limit));
+    const bool isFull = static_cast<std::int64_t>(text.size()) == limit;
+    if (isFull && (text.back() & 0xFC00) == 0xD800) text.remove_suffix(1);
+    return std::u16string(text);
+}
+
+} // namespace
+
+std::u16string TreeSummary::normalizedTitle(const Tree& tree, Node::Iterator begin, std::int64_t end,
+                                            std::int64_t limit) {
+    CORVANE_ASSERT(limit > 0, "TreeSummary");
+    std::u16string text;
+    std::int64_t lineWithWords = -1; // the last one that was found to be no tag line
+    Node::Iterator at = begin;
+    while (at.node && at.offset < end && static_cast<std::int64_t>(text.size()) < limit) {
+        if (limit == subtitleLimit && at->type == ONDO_HASHTAG_NODE && at.line != lineWithWords) {
+            if (passTagLine(tree, at)) continue;
+            lineWithWords = at.line;
+        }
+        if (isVerbatim(at.node)) text += textOf(tree, at);
+        text += substitute(at.node);
+        if (hidesSubtree(at.node))
+            at.nextInSequenceSkippingSubtree();
+        else
+            at.nextInSequence();
+    }
+    return finished(text, limit);
+}
+
+} // namespace CVN

@@ -1,0 +1,23 @@
+#include "corvane/client/QueryHas.h"
+
+#include "corvane/client/QueryItems.h"
+
+namespace CVN::Query {
+
+bool hasAny(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+    return keys.hasKeyWhere([&](CVNAttributeName key) { return text.attribute(key, index) != nullptr; });
+}
+
+bool hasTaskMarker(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+    const ItemRuns items(text, keys);
+    const std::int64_t run = items.at(index);
+    return run != ItemRuns::noRun && items.info(run).isTaskList() && text.attribute(keys[1], index);
+}
+
+bool hasSublist(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+    const ItemRuns items(text, keys);
+    const std::int64_t run = items.at(index);
+    return run != ItemRuns::noRun && items.hasSubItems(items.firstOfItem(run));
+}
+
+} // namespace CVN::Query

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+#include "corvane/scan/Export.h"
+#include "corvane/tree/Node.h"
+
+namespace CVN::Operation {
+
+/// Indentation: the blanks at the start of a line that place it in a list item or block quote.
+///
+/// Widths are columns, with tab stops at every 4; lengths and offsets count UTF-16 code units.
+class CORVANE_EXPORT Indent {
+public:
+    /// Whether a space is a line's indentation: blanks at the start of a line, or beside a marker, of a block
+    /// that stands directly in an item or quote. Then its width, as if `indentationText`, its text, began at
+    /// column 0; otherwise 0.
+    static std::pair<bool, std::int64_t> spaceAsIndentation(const Ondo::Node* node,
+                                                            std::u16string_view indentationText);
+};
+
+} // namespace CVN::Operation
