@@ -8,6 +8,7 @@
 #include "bench/BenchNote.h"
 #include "bench/CpuClock.h"
 #include "bench/Quantiles.h"
+#include "bench/Typing.h"
 #include "corvane/scan/Util.h"
 #include "corvane/tree/DocumentNode.h"
 #include "corvane/tree/Tree.h"
@@ -15,28 +16,10 @@
 namespace Ondo::Bench {
 namespace {
 
-/// In the paragraph of first level nearest behind `offset`, or in the first one of the note.
-std::int64_t paragraphBehind(const Tree& tree, std::int64_t offset) {
-    Node::Iterator at = tree.iteratorAtOffset(offset, LevelSetting::FirstLevel);
-    while (at->parent != tree.root.get())
-        at.parent();
-    while (at.node && at->type != ONDO_PARAGRAPH_NODE)
-        at.nextSibling();
-    return at.node ? at.offset + at->charCount / 2 : paragraphBehind(tree, 0);
-}
-
-/// Notes of all sizes have the same text in their midst, so that only what is around it differs.
-std::u16string noteFor(benchmark::State& state, const char16_t* head) {
-    static const std::string middle = realNote(10'000).text;
-    const Note note = realNoteAround(middle, static_cast<std::size_t>(state.range(0)));
-    state.SetLabel(note.source);
-    return head + Util::utf16(note.text);
-}
-
 /// Types and deletes a character in turn at the offset that `place` gives.
 template <class Place>
 void typeAt(benchmark::State& state, const char16_t* head, Place place) {
-    Tree tree(noteFor(state, head), RuleConfig::Extended);
+    Tree tree(noteToTypeIn(state, head), RuleConfig::Extended);
     std::vector<double> microseconds;
     std::int64_t offset = 0;
     bool isTyping = true;
@@ -55,29 +38,17 @@ void typeAt(benchmark::State& state, const char16_t* head, Place place) {
 
 constexpr const char16_t* noFrontMatter = u"# Note\n\n";
 
-/// Types in paragraphs picked at random between two offsets.
-void typeBetween(benchmark::State& state, const char16_t* head, std::int64_t (*first)(std::int64_t),
-                 std::int64_t (*last)(std::int64_t)) {
-    std::mt19937_64 random(1);
-    typeAt(state, head, [&](const Tree& tree) {
-        const std::int64_t from = first(tree.length());
-        const auto width = static_cast<std::uint64_t>(last(tree.length()) - from);
-        return paragraphBehind(tree, from + static_cast<std::int64_t>(random() % width));
-    });
-}
-
-/// A person at work on a page: within 4,000 code units of the middle.
 void typeInTheMiddle(benchmark::State& state, const char16_t* head) {
-    typeBetween(
-        state, head, [](std::int64_t length) { return length / 2 - 4000; },
-        [](std::int64_t length) { return length / 2 + 4000; });
+    typeAt(state, head, MiddleOfNote());
 }
 
 /// Each keystroke somewhere else: the worst that an index of blocks and a gap in the text can meet.
 void typeAnywhere(benchmark::State& state) {
-    typeBetween(
-        state, noFrontMatter, [](std::int64_t) { return std::int64_t{0}; },
-        [](std::int64_t length) { return length * 9 / 10; });
+    std::mt19937_64 random(1);
+    typeAt(state, noFrontMatter, [&](const Tree& tree) {
+        const auto width = static_cast<std::uint64_t>(tree.length() * 9 / 10);
+        return paragraphBehind(tree, static_cast<std::int64_t>(random() % width));
+    });
 }
 
 /// The position of a first-level block, asked of blocks in random order.

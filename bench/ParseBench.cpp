@@ -8,6 +8,7 @@
 
 #include "bench/BenchNote.h"
 #include "bench/CpuClock.h"
+#include "bench/Heap.h"
 #include "corvane/scan/Util.h"
 #include "corvane/tree/Parser.h"
 #include "corvane/tree/Tree.h"
@@ -37,12 +38,6 @@ void measure(benchmark::State& state, std::size_t bytes, Parse parse, Release re
         release(tree);
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(bytes) * state.iterations());
-}
-
-/// Of the heap, pages that it took from the system by themselves included.
-std::size_t bytesInUse() {
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 void parseCorvane(benchmark::State& state, RuleConfig::RuleSet rules) {
