@@ -1,5 +1,6 @@
 #include "Arguments.h"
 
+#include <charconv>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -33,6 +34,12 @@ constexpr Choice<Print> printChoices[] = {
     {"none", Print::None},
 };
 
+constexpr Choice<Colors> colorChoices[] = {
+    {"auto", Colors::Auto},
+    {"always", Colors::Always},
+    {"never", Colors::Never},
+};
+
 /// An option that takes one of the words; `value` holds the default.
 template <class Value, std::size_t N>
 void addChoice(CLI::App& app, const std::string& name, const Choice<Value> (&choices)[N], Value& value,
@@ -59,6 +66,44 @@ void addNote(CLI::App& app, Options& options) {
     addChoice(app, "--rules", ruleChoices, options.rules, "The rule set");
 }
 
+/// A count at the start of a word, which loses it; null when there is none.
+std::optional<std::int64_t> takeCount(std::string_view& word) {
+    std::int64_t count = 0;
+    const bool isDigit = !word.empty() && word[0] >= '0' && word[0] <= '9';
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), count);
+    if (!isDigit || error != std::errc()) return std::nullopt;
+    word.remove_prefix(static_cast<std::size_t>(end - word.data()));
+    return count;
+}
+
+std::optional<CVNRange> rangeOf(std::string_view word) {
+    const auto offset = takeCount(word);
+    if (!offset || !word.starts_with(',')) return std::nullopt;
+    word.remove_prefix(1);
+    const auto length = takeCount(word);
+    if (!length || !word.empty()) return std::nullopt;
+    return CVNRange{*offset, *length};
+}
+
+std::string complaintAboutRange(const std::string& word) {
+    if (rangeOf(word)) return {};
+    return word + " is not two whole numbers with a comma between them, from 0 to 9223372036854775807";
+}
+
+void addAnnotate(CLI::App& app, Options& options) {
+    addNote(app, options);
+    app.add_option_function<std::string>(
+           "--range", [&options](const std::string& word) { options.range = rangeOf(word); },
+           "Print what lies inside this range")
+        ->type_name("OFFSET,LENGTH")
+        ->check(complaintAboutRange);
+}
+
+void addShow(CLI::App& app, Options& options) {
+    addNote(app, options);
+    addChoice(app, "--color", colorChoices, options.colors, "When to use colours");
+}
+
 void addEdit(CLI::App& app, Options& options) {
     addNote(app, options);
     app.add_option("--script", options.script, "The edits, or - for standard input")
@@ -70,7 +115,8 @@ void addEdit(CLI::App& app, Options& options) {
 
 void addType(CLI::App& app, Options& options) {
     addNote(app, options);
-    app.add_flag("--check", options.check, "Compare the tree with a fresh parse after every keystroke");
+    app.add_flag("--check", options.check,
+                 "Compare tree and painting with a fresh note's after every keystroke");
     app.add_option("--every", options.every, "Of how many paragraphs one is changed on the way back")
         ->type_name("N")
         ->check(CLI::Range(std::int64_t{1}, std::int64_t{1'000'000'000}).description({}))
@@ -90,6 +136,23 @@ constexpr CommandRow commandRows[] = {
   printf '# Title\n' | corvane html)"},
     {"tree", "Print the tree of a note, one node a line", addNote, tree, R"(Example:
   corvane tree --rules commonmark note.md)"},
+    {"annotate", "Print the attribute runs of a note, one JSON object a line", addAnnotate, annotate,
+     R"(A run is a stretch over which a key has one value, as long as it can be:
+  {"range":[offset,length],"key":"CVNStrong","value":true}
+Offsets and lengths count UTF-16 code units in the whole text. Runs are ordered by offset, those that begin
+together by the name of the key as text. With --range, the first-level blocks that the range touches are
+annotated, and the runs that touch the range are printed, clipped to it.
+
+Example:
+  corvane annotate --range 0,100 note.md)"},
+    {"show", "Print a note as a person would like to read it", addShow, show,
+     R"(On a terminal the note is painted. Everywhere tasks are boxes, a folded section is an ellipsis, and control
+characters other than tabs and line endings are shown by signs. A painted line with right-to-left text
+ends with a dim arrow. The colours of "auto" are used on a terminal, unless NO_COLOR is set in the
+environment and not empty, or TERM is "dumb".
+
+Example:
+  corvane show --color always note.md | less -R)"},
     {"edit", "Apply a script of edits and print which ranges each restyles", addEdit, edit,
      R"(Each line of the script is one edit of the text that the line before left, in UTF-16 code units:
   {"range":[offset,length],"text":"..."}
@@ -100,7 +163,12 @@ Example:
   echo '{"range":[0,0],"text":"# "}' | corvane edit note.md --script - --check --print tree)"},
     {"type", "Type a note character by character and print what the keystrokes cost", addType, type,
      R"(The note is typed into an empty one. Then, from the last paragraph to the first, a character is
-deleted and typed again in one of every N. Only the time in which the tree follows is measured.
+deleted and typed again in one of every N. Measured is what an editor waits for: to replace in the tree
+and extend the range to restyle, and to annotate that range.
+
+The runs are painted over the range that each keystroke returned and nowhere else, and in the end must be
+those of a fresh note. With --check they are compared after every keystroke, as is the tree. Under the
+rules "commonmark", in which nothing folds, the runs of CVNFoldable are left out.
 
 Example:
   corvane type --every 1 note.md)"},

@@ -1,15 +1,20 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "Outcome.h"
+#include "corvane/client/CVNRange.h"
 #include "corvane/tree/RuleConfig.h"
 
 namespace Cli {
 
 /// What follows the last edit of a script.
 enum class Print { None, Tree, Html, Text };
+
+/// When the output is coloured. Auto: on a terminal, unless the environment forbids it.
+enum class Colors { Auto, Always, Never };
 
 /// What the command line said, with the defaults of what it left out. Files are paths; "-" is standard input.
 struct Options {
@@ -18,12 +23,16 @@ struct Options {
     std::string script;
     bool check = false; ///< compare with a fresh parse after every edit
     Print print = Print::None;
-    std::int64_t every = 10; ///< from 1 on
+    std::int64_t every = 10;       ///< from 1 on
+    std::optional<CVNRange> range; ///< not negative, but not known to lie in a text
+    Colors colors = Colors::Auto;
 };
 
 /// The commands throw a Failure for input that they can't take.
 Outcome html(const Options& options);
 Outcome tree(const Options& options);
+Outcome annotate(const Options& options);
+Outcome show(const Options& options);
 Outcome edit(const Options& options);
 Outcome type(const Options& options);
 

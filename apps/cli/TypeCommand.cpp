@@ -1,78 +1,15 @@
-#include <algorithm>
-#include <chrono>
 #include <utility>
 #include <vector>
 
 #include "Commands.h"
 #include "Input.h"
 #include "Progress.h"
-#include "Statistics.h"
-#include "TreeCheck.h"
+#include "Typist.h"
 #include "corvane/scan/Util.h"
-#include "corvane/tree/Tree.h"
 
 namespace Cli {
 
 namespace {
-
-/// How the tree differed from a fresh parse, which ends the typing.
-struct Mismatch {
-    std::int64_t keystroke;
-    std::string difference;
-};
-
-/// A note that is typed into, and what each keystroke cost.
-class Typist {
-    Ondo::Tree tree_;
-    bool check_;
-    std::vector<std::int64_t> nanoseconds_; ///< one a keystroke
-    std::int64_t redrawLength_ = 0;
-
-public:
-    explicit Typist(const Options& options) : tree_({}, options.rules), check_(options.check) {}
-
-    const Ondo::Tree& tree() const { return tree_; }
-
-    /// Replaces in the tree. Only that is measured; the check throws a Mismatch.
-    void press(const Ondo::Range& range, std::u16string_view text) {
-        using namespace std::chrono;
-        const auto start = steady_clock::now();
-        const std::vector<Ondo::Range> redraw = tree_.replace(range, text);
-        nanoseconds_.push_back(duration_cast<nanoseconds>(steady_clock::now() - start).count());
-        for (const Ondo::Range& each : redraw)
-            redrawLength_ += each.length;
-        if (check_) check();
-    }
-
-    std::string statistics() const;
-
-private:
-    std::int64_t keystrokes() const { return static_cast<std::int64_t>(nanoseconds_.size()); }
-
-    void check() const {
-        std::string difference = differenceFromFreshParse(tree_);
-        if (!difference.empty()) throw Mismatch{keystrokes(), std::move(difference)};
-    }
-};
-
-std::string Typist::statistics() const {
-    const Durations durations(nanoseconds_);
-    const double count = static_cast<double>(std::max<std::int64_t>(keystrokes(), 1));
-    const std::pair<const char*, std::string> rows[] = {
-        {"keystrokes", std::to_string(keystrokes())},
-        {"microseconds, median", oneDecimal(durations.percentile(50))},
-        {"microseconds, p95", oneDecimal(durations.percentile(95))},
-        {"microseconds, p99", oneDecimal(durations.percentile(99))},
-        {"microseconds, max", oneDecimal(durations.percentile(100))},
-        {"mean redraw length", oneDecimal(static_cast<double>(redrawLength_) / count)},
-        {"full reparses", std::to_string(tree_.fullReparseCount())},
-        {"nodes alive", std::to_string(Ondo::Node::instanceCount)},
-    };
-    std::string lines;
-    for (const auto& [name, value] : rows)
-        lines += std::string(name) + ": " + value + "\n";
-    return lines;
-}
 
 /// The character at an offset: a code unit, or a surrogate pair.
 std::u16string_view characterAt(std::u16string_view text, std::int64_t offset) {
@@ -113,24 +50,10 @@ void retype(Typist& typist, std::u16string_view text, std::int64_t every) {
     Progress progress("retyping");
     for (std::int64_t passed = 0; passed < count; passed += every) {
         const Ondo::Range range = middleOf(all[static_cast<std::size_t>(count - 1 - passed)], text);
-        typist.press(range, {});
+        typist.press(CVNRange::of(range), {});
         typist.press({range.offset, 0}, characterAt(text, range.offset));
         progress.show(passed, count);
     }
-}
-
-Outcome mismatch(Mismatch found) {
-    return {{},
-            "keystroke " + std::to_string(found.keystroke) + " leaves a tree that differs from a fresh parse",
-            std::move(found.difference)};
-}
-
-Outcome result(const Typist& typist) {
-    const std::string statistics = typist.statistics();
-    std::string difference = differenceFromFreshParse(typist.tree());
-    if (difference.empty()) return {statistics + "equal to a fresh parse: yes\n"};
-    return {statistics + "equal to a fresh parse: no\n", "the final tree differs from a fresh parse",
-            std::move(difference)};
 }
 
 } // namespace
@@ -142,9 +65,9 @@ Outcome type(const Options& options) {
         typeAll(typist, text);
         retype(typist, text, options.every);
     } catch (Mismatch& found) {
-        return mismatch(std::move(found));
+        return {{}, std::move(found.complaint), std::move(found.difference)};
     }
-    return result(typist);
+    return typist.result();
 }
 
 } // namespace Cli

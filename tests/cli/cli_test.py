@@ -5,6 +5,7 @@ import json
 import os
 import pty
 import random
+import re
 import subprocess
 import sys
 import tempfile
@@ -78,6 +79,21 @@ BAD_USAGE = [
     (["edit", "note.md", "--script", "s", "--print", "json"], "--print"),
     (["edit", "--script", "-"], "standard input"),
     (["edit", "-", "--script", "-"], "standard input"),
+    (["annotate", "--range"], "--range"),
+    (["annotate", "--range", ""], "--range"),
+    (["annotate", "--range", "1"], "--range"),
+    (["annotate", "--range", "1,"], "--range"),
+    (["annotate", "--range", ",1"], "--range"),
+    (["annotate", "--range", "-1,1"], "--range"),
+    (["annotate", "--range", "+1,1"], "--range"),
+    (["annotate", "--range", "1, 1"], "--range"),
+    (["annotate", "--range", "1,1,1"], "--range"),
+    (["annotate", "--range", "0x1,1"], "--range"),
+    (["annotate", "--range", "0,9223372036854775808"], "--range"),
+    (["annotate", "--range", "0,0", "--range", "0,0"], "--range"),
+    (["show", "--color"], "--color"),
+    (["show", "--color", "maybe"], "maybe"),
+    (["show", "--check"], "--check"),
     (["type", "--every", "0"], "--every"),
     (["type", "--every", "-1"], "--every"),
     (["type", "--every", "1.5"], "--every"),
@@ -148,10 +164,210 @@ class Printing(CommandTest):
     def test_help(self):
         self.assertRegex(run("--version").stdout.decode(), r"\Acorvane \d+\.\d+\.\d+\n\Z")
         self.assertIn(b"edit", run("--help").stdout)
-        for name in ("html", "tree", "edit", "type"):
+        for name in ("html", "tree", "annotate", "show", "edit", "type"):
             result = run(name, "--help")
             self.assertEqual((result.returncode, result.stderr), (0, b""))
             self.assertRegex(result.stdout.decode(), rf"Example:\n.*corvane {name}")
+
+
+def annotation(note, *args):
+    """The printed runs, as (offset, length, key, value)."""
+    result = run("annotate", *args, stdin=note.encode())
+    assert (result.returncode, result.stderr) == (0, b""), result.stderr
+    runs = [json.loads(line) for line in result.stdout.decode().splitlines()]
+    return [(*each["range"], each["key"], each["value"]) for each in runs]
+
+
+class Annotating(CommandTest):
+    def test_a_run_is_a_line(self):
+        self.assert_prints(
+            '{"range":[0,11],"key":"CVNDirection","value":1}\n'
+            '{"range":[3,7],"key":"CVNStrong","value":true}\n'
+            '{"range":[3,2],"key":"CVNStrongMarker","value":1}\n'
+            '{"range":[8,2],"key":"CVNStrongMarker","value":2}\n', "annotate", stdin="😀 **a😀**\n".encode())
+        self.assert_prints("", "annotate")
+
+    def test_values(self):
+        info = {"listLevel": 0, "itemIndex": 0, "listType": 1, "listSubType": 1, "taskType": 2,
+                "orderedListItemNumber": 1, "relativeListLevel": 0}
+        for note, key, value in [
+            ("- [x] a", "CVNListItem", info),
+            ("[[a|é\"]]", "CVNWikiLinkAlias", 'é"'),
+            ("|a|b|\n|-|-|\n", "CVNTable", {"ColumnCount": 2, "RowCount": 1}),
+            ('a <!-- {"b":[1,-2.5,null,{"é":false}]} -->', "CVNMetadata", {"b": [1, -2.5, None, {"é": False}]}),
+            ("a <!-- {} -->", "CVNMetadata", {}),
+        ]:
+            with self.subTest(note=note):
+                found = [run[3] for run in annotation(note) if run[2] == key]
+                self.assertEqual(found, [value])
+                if value == info:
+                    self.assertEqual(list(found[0]), list(info))
+
+    def test_order(self):
+        for rules in RULES:
+            runs = annotation(WELCOME.read_text(), "--rules", rules)
+            self.assertGreater(len(runs), 100)
+            self.assertEqual(runs, sorted(runs, key=lambda run: (run[0], run[2])))
+
+    def test_a_range_shows_what_lies_inside(self):
+        text = WELCOME.read_text()
+        length = len(text.encode("utf-16-le")) // 2
+        everything = annotation(text)
+        fold = next(run for run in everything if run[2] == "CVNFold" and run[1] > 150)
+        chooser = random.Random(1)
+        ranges = [(0, length), (0, 0), (length, 0), (length - 1, 1), (fold[0] + 100, 5), (fold[0] + 30, fold[1])]
+        for _ in range(40):
+            start = chooser.randint(0, length)
+            ranges.append((start, chooser.randint(0, min(300, length - start))))
+        for start, size in ranges:
+            clipped = [(max(at, start), min(at + count, start + size), *rest) for at, count, *rest in everything]
+            expected = [(at, end - at, *rest) for at, end, *rest in clipped if at < end]
+            with self.subTest(start=start, size=size):
+                self.assertEqual(annotation(text, "--range", f"{start},{size}"),
+                                 sorted(expected, key=lambda run: (run[0], run[2])))
+
+    def test_a_range_outside_the_text(self):
+        for outside in ("5,0", "4,1", "0,5", "9223372036854775807,9223372036854775807"):
+            with self.subTest(range=outside):
+                self.assert_refused(2, [outside, "outside the text of 4 code units"], "annotate", "--range", outside,
+                                    stdin="a😀b".encode())
+
+
+ESCAPE = re.compile(r"\x1b\[[0-9;]*m")
+
+
+class Showing(CommandTest):
+    def show(self, note, *args):
+        result = run("show", *args, stdin=note if isinstance(note, bytes) else note.encode())
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        return result.stdout.decode()
+
+    def paint(self, note, *args):
+        return self.show(note, "--color", "always", *args)
+
+    def test_plain(self):
+        fold = '<!-- {"fold":true} -->'
+        for note, expected in [
+            ("", ""),
+            ("# a\n\n**b** > c\n* * *", None),
+            ("- [ ] a\n- [x] b\n  1. [ ] c\n  * [X] d\n", "- ☐ a\n- ☑ b\n  1. [ ] c\n  * ☑ d\n"),
+            ("> - [x] a [ ]\n", "> - ☑ a [ ]\n"),
+            ("[x] a", None),
+            (f"# a {fold}\n\nb\n\n## c\n\nd\n\n# e\n", "# a …\n\n# e\n"),
+            (f"# a {fold}\r\nb\r\n\r\n# c", "# a …\r\n\r\n# c"),
+            (f"# a {fold}\nb\n", "# a …\n"),
+            (f"# a {fold}\nb", "# a …"),
+            (f"- a {fold}\n  - b\n\n  c\n- d\n", "- a …\n- d\n"),
+            (f"# a {fold}\nb\n# c {fold}\nd\n", "# a …\n# c …\n"),
+            (f"`{fold}`\n", None),
+            ("é中😀\u2028\n", None),
+            ("שלום\n", None),
+        ]:
+            with self.subTest(note=note):
+                self.assertEqual(self.show(note), note if expected is None else expected)
+                self.assertEqual(self.show(note, "--color", "never"), note if expected is None else expected)
+
+    def test_control_characters_show_as_signs(self):
+        note = "a\x1b[31m\0\x07\x08\x7f\x9b1m\x85\tb\r\nc\rd"
+        expected = "a␛[31m␀␇␈␡␛[1m␛E\tb\r\nc\nd"
+        self.assertEqual(self.show(note), expected)
+        for form in ("{}", "`{}`", "# {}", "> {}", "```\n{}\n```", "[{}](x)", "<b {}>", "| {} |\n|-|\n", "$$\n{}\n$$"):
+            painted = ESCAPE.sub("", self.paint(form.format(note)))
+            self.assertEqual(re.findall(r"[\0-\x08\x0b\x0c\x0e-\x1f\x7f-\x9f]|\r(?!\n)", painted), [])
+
+    def test_painting_hides_no_text(self):
+        text = WELCOME.read_text()
+        for rules in RULES:
+            with self.subTest(rules=rules):
+                plain = self.show(text, "--rules", rules)
+                painted = ESCAPE.sub("", self.paint(text, "--rules", rules))
+                for drawn, sign in [(r"^─+$|^-+$", "---"), ("▌", ">"), (" ⇠", "")]:
+                    painted = re.sub(drawn, sign, painted, flags=re.MULTILINE)
+                self.assertEqual(painted, re.sub(r"^(-+|\* \* \*)$", "---", plain, flags=re.MULTILINE))
+
+    def test_each_line_leaves_the_terminal_as_it_was(self):
+        for line in self.paint(WELCOME.read_text()).split("\n"):
+            self.assertRegex((["\x1b[0m"] + ESCAPE.findall(line))[-1], r"\A\x1b\[0m\Z")
+
+    def style_of(self, word, note):
+        """The escape sequence in force where the word stands in the painted note."""
+        painted = self.paint(note)
+        self.assertIn(word, painted)
+        return (["\x1b[0m"] + ESCAPE.findall(painted[:painted.index(word)]))[-1][2:-1].split(";")
+
+    def test_styles(self):
+        bold, dim, italic, underline, strike = "12349"
+        for note, word, attributes in [
+            ("word", "word", ""),
+            ("**word**", "word", bold),
+            ("**word**", "**", dim),
+            ("**a *word***", "word", bold + italic),
+            ("~word~", "word", underline),
+            ("~~word~~", "word", strike),
+            ("# word", "word", bold + underline),
+            ("# word", "#", dim),
+            ("word\n---", "---", dim),
+            ("## *word*", "word", bold + italic),
+            ("[word](url)", "word", underline),
+            ("[word](url)", "url", dim),
+            ("[[word]]", "word", underline),
+            ("https://word.com", "word", underline),
+            ("---\nword: x\n---\n", "word", dim),
+            ('a <!-- {"word":1} -->', "word", dim),
+            ("|a|\n|---|\n", "---", dim),
+            ("- [ ] a", "-", dim),
+            ("- [ ] a", "☐", ""),
+            ("* * *", "─────", dim),
+            ("\\word\\*", "*", ""),
+            ("שלום", "⇠", dim),
+            ("`a` שלום\n", "⇠", dim),
+        ]:
+            with self.subTest(note=note, word=word):
+                self.assertEqual("".join(code for code in self.style_of(word, note) if code in "12349"), attributes)
+
+    def test_colours(self):
+        plain = self.style_of("word", "word")
+        for form in ("`word`", "    word", "```\nword\n```", "$word$", "#word", "&amp; ![word](x)", "> [!TIP] word",
+                     "[^word]\n\n[^word]: x"):
+            with self.subTest(form=form):
+                self.assertNotEqual(self.style_of("word", form), plain)
+        inks = {pen: self.style_of("word", f"=={pen}word==")[-2:] for pen in ["", "🔴", "🔵", "🟢", "🟡", "🟣"]}
+        self.assertEqual(inks[""], inks["🟡"])
+        self.assertEqual(len({tuple(ink) for ink in inks.values()}), 5)
+        for literal, color in [("#ff8700", "208"), ("rgb(0, 135, 255)", "33"), ("rgb(0%,100%,0%)", "46"), ("#000000", "16"),
+                               ("hsl(240, 100%, 50%)", "21"), ("hsl(-120,100%,50%)", "21"), ("rgb(999,-5,0)", "196")]:
+            with self.subTest(literal=literal):
+                self.assertEqual(self.style_of(literal[1:], literal)[-3:], ["48", "5", color])
+        self.assertEqual(self.style_of("rgb", "rgb(1.2.3,4,5)"), ["0"])
+        bars = [line[:line.index("▌")] for line in self.paint("> [!TIP]\n> a\n> > b\n\n> c\n").split("\n") if "▌" in line]
+        self.assertEqual(len(set(ESCAPE.findall(bars[1])) & set(ESCAPE.findall(bars[2]))), 1)
+        self.assertNotEqual(bars[1], bars[3])
+
+    def test_when_there_are_colours(self):
+        for variables, arguments, is_terminal, expected in [
+            ({}, [], False, False),
+            ({}, [], True, True),
+            ({"NO_COLOR": ""}, [], True, True),
+            ({"NO_COLOR": "0"}, [], True, False),
+            ({"TERM": "dumb"}, [], True, False),
+            ({}, ["--color", "never"], True, False),
+            ({}, ["--color", "auto"], False, False),
+            ({"NO_COLOR": "1"}, ["--color", "always"], False, True),
+        ]:
+            with self.subTest(variables=variables, arguments=arguments, is_terminal=is_terminal):
+                primary, terminal = pty.openpty()
+                self.addCleanup(os.close, primary)
+                environment = {"TERM": "xterm", **variables}
+                output = terminal if is_terminal else subprocess.PIPE
+                result = subprocess.run([COMMAND, "show", *arguments], input=b"**a**", stdout=output, timeout=60,
+                                        env=environment)
+                os.close(terminal)
+                shown = os.read(primary, 1000) if is_terminal else result.stdout
+                self.assertEqual(b"\x1b" in shown, expected)
+
+    def test_long_notes_take_no_long_time(self):
+        for note in ("**a** `b` " * 50_000, "- [ ] *a*\n" * 30_000, "> " * 50 + "a\n" * 30_000, WELCOME.read_text() * 100):
+            self.assertIn("a", self.paint(note))
 
 
 class Editing(CommandTest):
@@ -213,35 +429,49 @@ class Typing(CommandTest):
     def type(self, note, *args):
         result = run("type", *args, stdin=note.encode())
         self.assertEqual((result.returncode, result.stderr), (0, b""))
-        return dict(line.split(": ") for line in result.stdout.decode().splitlines())
+        return result.stdout.decode()
+
+    def numbers(self, shown):
+        """The rows of the table and the lines below it, each by its name."""
+        rows = re.findall(r"^  ([a-z ]+?) +([0-9.]+) +([0-9.]+) +([0-9.]+) +([0-9.]+)$", shown, re.MULTILINE)
+        return {name: [float(number) for number in numbers] for name, *numbers in rows}, dict(
+            re.findall(r"^([a-z ]+): (.*)$", shown, re.MULTILINE))
 
     def test_statistics(self):
         shown = self.type("# a\n\nb 😀 c\n\n> 😀\n", "--every", "1", "--check")
-        self.assertEqual(list(shown), ["keystrokes", "microseconds, median", "microseconds, p95", "microseconds, p99",
-                                       "microseconds, max", "mean redraw length", "full reparses", "nodes alive",
-                                       "equal to a fresh parse"])
-        self.assertEqual(shown["keystrokes"], str(16 + 2 * 2))
-        self.assertEqual(shown["equal to a fresh parse"], "yes")
-        times = [float(shown["microseconds, " + name]) for name in ("median", "p95", "p99", "max")]
-        self.assertEqual(times, sorted(times))
-        self.assertGreater(float(shown["mean redraw length"]), 1)
+        table, lines = self.numbers(shown)
+        self.assertEqual(len(shown.splitlines()), len(table) + len(lines) + 1)
+        self.assertIn("microseconds            median       p95       p99       max\n", shown)
+        self.assertEqual(list(table), ["replace and extend", "annotate", "total"])
+        for numbers in table.values():
+            self.assertEqual(numbers, sorted(numbers))
+        self.assertLessEqual(max(table["replace and extend"][3], table["annotate"][3]), table["total"][3])
+        self.assertEqual(list(lines), ["keystrokes", "mean length restyled", "full reparses", "nodes alive",
+                                       "equal to a fresh parse", "painted like a fresh note"])
+        self.assertEqual(lines["keystrokes"], str(16 + 2 * 2))
+        self.assertGreater(float(lines["mean length restyled"]), 1)
+        self.assert_holds(shown)
+
+    def assert_holds(self, shown):
+        self.assertTrue(shown.endswith("equal to a fresh parse: yes\npainted like a fresh note: yes\n"), shown)
 
     def test_one_of_every_n_paragraphs_is_changed_from_the_last(self):
         note = "a\n\n" * 5
         for every, changed in [(1, 5), (2, 3), (4, 2), (5, 1), (1_000_000_000, 1)]:
             with self.subTest(every=every):
-                self.assertEqual(int(self.type(note, "--every", every)["keystrokes"]), len(note) + 2 * changed)
+                shown = self.type(note, "--every", every)
+                self.assertEqual(int(self.numbers(shown)[1]["keystrokes"]), len(note) + 2 * changed)
 
     def test_notes_at_the_edge(self):
-        for note in ("", "\n", "😀", "\0", "a\r\n\r\nb", "```\n", "- \n\n\n"):
+        for note in ("", "\n", "😀", "\0", "a\r\n\r\nb", "```\n", "- \n\n\n", "# a\n```\n# b\n```\n# c\n",
+                     '# a <!-- {"fold":true} -->\n## b\n\nc\n\n# d\n', "[a]\n\n> [b]\n\n[a]: b\n[b]: c\n"):
             with self.subTest(note=note):
-                self.assertEqual(self.type(note, "--every", "1", "--check")["equal to a fresh parse"], "yes")
+                self.assert_holds(self.type(note, "--every", "1", "--check"))
 
     def test_the_welcome_note(self):
         for rules in RULES:
             with self.subTest(rules=rules):
-                shown = self.type(WELCOME.read_text(), "--every", "1", "--check", "--rules", rules)
-                self.assertEqual(shown["equal to a fresh parse"], "yes")
+                self.assert_holds(self.type(WELCOME.read_text(), "--every", "1", "--check", "--rules", rules))
 
     def test_progress_shows_on_a_terminal_alone(self):
         primary, terminal = pty.openpty()
@@ -261,7 +491,7 @@ class Refusing(CommandTest):
     def test_files_that_cannot_be_read(self):
         empty = self.file("empty", "")
         missing = self.folder / "no\nsuch.md"
-        for command in (["html"], ["tree"], ["type"], ["edit", empty, "--script"], ["edit", "--script", empty]):
+        for command in (["html"], ["tree"], ["annotate"], ["show"], ["type"], ["edit", empty, "--script"], ["edit", "--script", empty]):
             with self.subTest(command=command):
                 self.assert_refused(1, ["no?such.md", "No such file"], *command, missing)
                 self.assert_refused(1, [str(self.folder), "directory"], *command, self.folder)
@@ -302,7 +532,7 @@ class Ending(CommandTest):
 
     @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
     def test_a_full_disk_is_an_error(self):
-        for args in (["html"], ["tree"], ["type"], ["--help"]):
+        for args in (["html"], ["tree"], ["annotate"], ["show"], ["type"], ["--help"]):
             with self.subTest(args=args), open("/dev/full", "wb") as full:
                 result = subprocess.run([COMMAND, *args], input=b"a", stdout=full, stderr=subprocess.PIPE, timeout=60)
                 self.assertEqual(result.returncode, 1)

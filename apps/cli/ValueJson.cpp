@@ -1,0 +1,67 @@
+#include "ValueJson.h"
+
+#include <nlohmann/json.hpp>
+
+#include "corvane/scan/Util.h"
+
+namespace Cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json jsonOf(const CVNValue& value);
+
+Json jsonOf(const CVNListInfo& info) {
+    return {{"listLevel", info.listLevel},
+            {"itemIndex", info.itemIndex},
+            {"listType", info.listType},
+            {"listSubType", info.listSubType},
+            {"taskType", info.taskType},
+            {"orderedListItemNumber", info.orderedListItemNumber},
+            {"relativeListLevel", info.relativeListLevel}};
+}
+
+Json jsonOf(const CVNArray& array) {
+    Json json = Json::array();
+    for (const CVNValue& each : array)
+        json.push_back(jsonOf(each));
+    return json;
+}
+
+Json jsonOf(const CVNDictionary& dictionary) {
+    Json json = Json::object();
+    for (const auto& [name, value] : dictionary)
+        json[Ondo::Util::utf8(name)] = jsonOf(value);
+    return json;
+}
+
+Json jsonOf(const CVNValue& value) {
+    switch (value.kind()) {
+    case CVNValue::Kind::Null:
+        return nullptr;
+    case CVNValue::Kind::Integer:
+        return value.integerValue();
+    case CVNValue::Kind::Boolean:
+        return value.booleanValue();
+    case CVNValue::Kind::Double:
+        return value.doubleValue();
+    case CVNValue::Kind::String:
+        return Ondo::Util::utf8(value.stringValue());
+    case CVNValue::Kind::Array:
+        return jsonOf(*value.arrayValue());
+    case CVNValue::Kind::Dictionary:
+        return jsonOf(*value.dictionaryValue());
+    case CVNValue::Kind::ListInfo:
+        return jsonOf(*value.listInfoValue());
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::string jsonText(const CVNValue& value) {
+    return jsonOf(value).dump();
+}
+
+} // namespace Cli
