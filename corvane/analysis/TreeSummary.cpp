@@ -28,9 +28,9 @@ std::u16string_view source(const Node* rawHtml) {
     return static_cast<const Inline::RawHtmlNode*>(rawHtml)->text;
 }
 
-/// A line break within a table cell.
+/// A line break that a table cell can hold.
 bool isCellBreak(const Node* rawHtml) {
-    return source(rawHtml) == u"<br>" && rawHtml->hasAncestorOfType(ONDO_TABLE_CELL_NODE);
+    return source(rawHtml) == u"<br>";
 }
 
 /// Cells are followed by a pipe and, but for the last one of a text, by something else.
@@ -79,7 +79,7 @@ bool isVerbatim(const Node* node) {
 }
 
 /// What stands in the title for a node that is not there as it stands.
-std::u16string substitute(const Node* node) {
+std::u16string substitute(const Node* node, bool isInCell) {
     switch (node->type) {
     case ONDO_LINE_ENDING_NODE:
         return u" ";
@@ -89,7 +89,7 @@ std::u16string substitute(const Node* node) {
     case ONDO_TABLE_CELL_NODE:
         return isFollowed(node) ? u" " : u"";
     case ONDO_RAW_HTML_NODE:
-        return isCellBreak(node) ? u" " : u"";
+        return isInCell && isCellBreak(node) ? u" " : u"";
     case ONDO_ENTITY_NODE:
         return static_cast<const Inline::EntityNode*>(node)->toString();
     default:
@@ -98,13 +98,13 @@ std::u16string substitute(const Node* node) {
 }
 
 /// Whether nothing within the node is part of the title.
-bool hidesSubtree(const Node* node) {
+bool hidesSubtree(const Node* node, bool isInCell) {
     switch (node->type) {
     case ONDO_ENTITY_NODE:
     case ONDO_FOOTNOTE_REFERENCE_NODE:
         return true;
     case ONDO_RAW_HTML_NODE:
-        return isCellBreak(node) || source(node).starts_with(u"<!-- {");
+        return (isInCell && isCellBreak(node)) || source(node).starts_with(u"<!-- {");
     case ONDO_WIKILINK_SEGMENT_ATTRIBUTE_NODE:
         return hasAlias(node);
     default:
@@ -154,15 +154,18 @@ std::u16string TreeSummary::normalizedTitle(const Tree& tree, Node::Iterator beg
     CORVANE_ASSERT(limit > 0, "TreeSummary");
     std::u16string text;
     std::int64_t lineWithWords = -1; // the last one that was found to be no tag line
+    std::int64_t cellEnd = 0;        // of the last table cell
     Node::Iterator at = begin;
     while (at.node && at.offset < end && static_cast<std::int64_t>(text.size()) < limit) {
         if (limit == subtitleLimit && at->type == ONDO_HASHTAG_NODE && at.line != lineWithWords) {
             if (passTagLine(tree, at)) continue;
             lineWithWords = at.line;
         }
+        if (at->type == ONDO_TABLE_CELL_NODE) cellEnd = at.end();
+        const bool isInCell = at.offset < cellEnd;
         if (isVerbatim(at.node)) text += textOf(tree, at);
-        text += substitute(at.node);
-        if (hidesSubtree(at.node))
+        text += substitute(at.node, isInCell);
+        if (hidesSubtree(at.node, isInCell))
             at.nextInSequenceSkippingSubtree();
         else
             at.nextInSequence();

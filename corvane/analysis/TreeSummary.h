@@ -16,8 +16,8 @@ public:
     /// nothing but hashtags.
     static constexpr std::int64_t subtitleLimit = 200;
 
-    /// The plain text from the start of a node up to the offset `end`, trimmed, of at most `limit` code
-    /// units.
+    /// The plain text from the start of a node, which lies in no table cell, up to the offset `end`, trimmed,
+    /// of at most `limit` code units.
     ///
     /// Markup is dropped, what a link shows is kept without where it leads, and a reference that nothing
     /// defines reads as written. Lines are joined by spaces. A surrogate pair is not cut in two. Asserts

@@ -135,7 +135,8 @@ MaybeValue headingLevel(const Annotator& at) {
 }
 
 MaybeValue indentation(const Annotator& at) {
-    const auto [isIndentation, width] = CVN::Operation::Indent::spaceAsIndentation(&at.node(), at.text());
+    const auto [isIndentation, width] =
+        CVN::Operation::Indent::spaceAsIndentation(&at.node(), at.text(), at.block());
     return isIndentation && width >= 1 ? MaybeValue(CVNValue::integer(width)) : std::nullopt;
 }
 

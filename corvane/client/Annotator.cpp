@@ -80,6 +80,7 @@ void Annotator::enterAncestors() {
 }
 
 void Annotator::enter(const Node* node, std::int64_t offset) {
+    if (node->isBlock()) block_ = node;
     if (node->type == Ondo::ONDO_IMAGE_NODE) imageEnd_ = std::max(imageEnd_, offset + node->charCount);
     if (node->type == Ondo::ONDO_LINK_NODE) linkEnd_ = std::max(linkEnd_, offset + node->charCount);
     if (!isContainer(node)) return;

@@ -28,6 +28,8 @@ public:
     /// Of an offset in the document.
     std::int64_t locationOf(std::int64_t offset) const { return offset - range_.location; }
     std::int64_t level() const { return at_.level; }
+    /// The innermost block around the node, or the node itself.
+    const Ondo::Node* block() const { return block_; }
     /// Without what of the node lies outside the range.
     std::u16string_view text() const;
     /// The text that is annotated.
@@ -82,6 +84,7 @@ private:
     bool inlinesOnly_;
     CVNAttributedString result_;
     Ondo::Node::Iterator at_;
+    const Ondo::Node* block_ = nullptr;
     std::vector<Container> containers_; ///< outermost first
     std::vector<QuoteLine> quoteLines_; ///< of the line at hand, outermost first
     std::int64_t lineStart_ = 0;

@@ -19,7 +19,10 @@ struct CVNRange {
     static constexpr CVNRange between(std::int64_t start, std::int64_t end) { return {start, end - start}; }
     static constexpr CVNRange of(const Ondo::Range& range) { return {range.offset, range.length}; }
 
-    constexpr std::int64_t end() const { return location + length; }
+    /// No farther than CVNNotFound, which stands for "to the end of everything".
+    constexpr std::int64_t end() const {
+        return length > CVNNotFound - std::max<std::int64_t>(location, 0) ? CVNNotFound : location + length;
+    }
     constexpr bool isFound() const { return location != CVNNotFound; }
     constexpr Ondo::Range coreRange() const { return {location, length}; }
     constexpr bool operator==(const CVNRange& other) const {

@@ -33,21 +33,32 @@ bool startsLine(const Node* space) {
     return space->parent->isBlock() || isFencedContent(space->parent);
 }
 
-bool isIndentation(const Node* space) {
-    if (space->type != Ondo::ONDO_SPACE_NODE) return false;
-    const Node* block = space->parentBlock();
-    if (!isContainer(block->parent)) return false;
-    if (isContainerMarker(space->nextSibling)) return true;
-    // What follows the last marker of a blank line indents nothing.
-    if (space->previousSibling && block->type == Ondo::ONDO_BLANK_LINE_NODE) return false;
-    return isContainerMarker(space->previousSibling) || startsLine(space);
+bool isBesideMarkerOrStartsLine(const Node* space) {
+    return isContainerMarker(space->nextSibling) || isContainerMarker(space->previousSibling) ||
+           startsLine(space);
+}
+
+/// What follows the last marker of a blank line indents nothing.
+bool isRestOfBlankLine(const Node* space) {
+    return space->parent->type == Ondo::ONDO_BLANK_LINE_NODE && space->previousSibling &&
+           !isContainerMarker(space->nextSibling);
+}
+
+bool isIndentation(const Node* space, const Node* block) {
+    return space->type == Ondo::ONDO_SPACE_NODE && isBesideMarkerOrStartsLine(space) &&
+           !isRestOfBlankLine(space) && isContainer(block->parent);
 }
 
 } // namespace
 
 std::pair<bool, std::int64_t> Indent::spaceAsIndentation(const Node* node,
                                                          std::u16string_view indentationText) {
-    if (!isIndentation(node)) return {false, 0};
+    return spaceAsIndentation(node, indentationText, node->parentBlock());
+}
+
+std::pair<bool, std::int64_t>
+Indent::spaceAsIndentation(const Node* node, std::u16string_view indentationText, const Node* block) {
+    if (!isIndentation(node, block)) return {false, 0};
     const auto length = static_cast<std::int64_t>(indentationText.size());
     return {true, Ondo::Lines::Line::indentationAtOffsetRelativeToStart(length, 0, indentationText)};
 }

@@ -19,6 +19,9 @@ public:
     /// column 0; otherwise 0.
     static std::pair<bool, std::int64_t> spaceAsIndentation(const Ondo::Node* node,
                                                             std::u16string_view indentationText);
+    /// The same, for who knows the innermost block around the space, which can be far up.
+    static std::pair<bool, std::int64_t>
+    spaceAsIndentation(const Ondo::Node* node, std::u16string_view indentationText, const Ondo::Node* block);
 };
 
 } // namespace CVN::Operation
