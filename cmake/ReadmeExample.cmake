@@ -1,11 +1,13 @@
-# Writes the first C++ listing of README into FILE, so that what it shows is what is built.
-function(corvane_readme_example readme file)
+# Writes the first listing of README in LANGUAGE, "cpp" or "c", into FILE, so that what it shows is what is built.
+function(corvane_readme_example readme language file)
     file(READ "${readme}" text)
-    string(FIND "${text}" "```cpp\n" begin)
+    set(fence "```${language}\n")
+    string(FIND "${text}" "${fence}" begin)
     if(begin EQUAL -1)
-        message(FATAL_ERROR "${readme} shows no C++")
+        message(FATAL_ERROR "${readme} shows no ${language}")
     endif()
-    math(EXPR begin "${begin} + 7")
+    string(LENGTH "${fence}" length)
+    math(EXPR begin "${begin} + ${length}")
     string(SUBSTRING "${text}" ${begin} -1 text)
     string(FIND "${text}" "```" end)
     string(SUBSTRING "${text}" 0 ${end} text)

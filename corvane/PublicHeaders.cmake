@@ -91,12 +91,29 @@ set(CORVANE_PUBLIC_HEADERS
     client/CVNArchive.h
     client/CVNAttributeName.h
     client/CVNAttributedString.h
+    client/CVNAttributes.h
     client/CVNInlineStyle.h
     client/CVNListInfo.h
     client/CVNMetadata.h
     client/CVNNestableValue.h
+    client/CVNQuery.h
     client/CVNRange.h
     client/CVNValue.h
     client/FilenameMatch.h
     client/OndoString.h
+    client/QueryBlockquotes.h
+    client/QueryCode.h
+    client/QueryConstructs.h
+    client/QueryHas.h
+    client/QueryInside.h
+    client/QueryItems.h
+    client/QueryLinks.h
+    client/QueryLists.h
+    client/QueryParts.h
+    client/QueryRangeAtIndex.h
+    client/QueryRuns.h
+    client/QueryTypes.h
+    client/QueryUtilities.h
+    client/QueryValues.h
+    client/QueryWrapped.h
     client/StringBuilder.h)

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "capi/corvane.h"
+#include "corvane/client/CVNAST.h"
+#include "corvane/client/CVNAttributedString.h"
+
+/// What the handles of corvane.h point to.
+
+struct corvane_string {
+    std::u16string text;
+};
+
+struct corvane_note {
+    CVNAST ast;
+    /// The length that the text will have after the batch; has no meaning while that is empty.
+    std::int64_t pendingLength = 0;
+
+    bool isPending() const { return !ast.replaceBatch->empty(); }
+    std::int64_t lengthAfterBatch() const { return isPending() ? pendingLength : ast.markdownLength(); }
+};
+
+/// The runs point into the string's values and the two deques, whose elements stay where they are.
+struct corvane_annotation {
+    CVNAttributedString string;
+    std::vector<corvane_run> runs; ///< by key, then by location
+    std::vector<std::int64_t>
+        keyStarts; ///< for each key the index of its first run, and at last their number
+    std::deque<std::u16string> jsonTexts; ///< of dictionaries
+    std::deque<corvane_list_info> lists;
+
+    explicit corvane_annotation(CVNAttributedString annotated);
+};
+
+namespace CApi {
+
+/// Hands a text over to the caller.
+inline corvane_status give(std::u16string text, corvane_string** string) {
+    *string = new corvane_string{std::move(text)};
+    return CORVANE_OK;
+}
+
+} // namespace CApi

@@ -1,0 +1,41 @@
+#include <iterator>
+
+#include "capi/Handles.h"
+#include "corvane/Version.h"
+
+namespace {
+
+/// By number.
+constexpr const char* statusTexts[] = {
+    "success",
+    "an object, a callback, a name or a place for a result is null",
+    "a text is null and has a length, or its length is negative",
+    "a number is none of its enumeration or out of bounds",
+    "there is nothing of that name",
+    "a range or an index does not lie in the text",
+    "a batch is pending",
+    "the note is not empty",
+};
+
+} // namespace
+
+const char* corvane_status_text(corvane_status status) {
+    const bool isKnown = status >= 0 && status < std::ssize(statusTexts);
+    return isKnown ? statusTexts[status] : "unknown status";
+}
+
+const char* corvane_version() {
+    return Ondo::version.data();
+}
+
+const corvane_unit* corvane_string_units(const corvane_string* string) {
+    return string ? string->text.c_str() : nullptr;
+}
+
+int64_t corvane_string_length(const corvane_string* string) {
+    return string ? std::ssize(string->text) : 0;
+}
+
+void corvane_string_destroy(corvane_string* string) {
+    delete string;
+}
