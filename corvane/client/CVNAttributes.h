@@ -12,11 +12,14 @@ public:
 
 private:
     static constexpr std::array<CVNAttributeName, 17> markers = {
-        CVNStrongMarkerAttributeName,     CVNEmphasisMarkerAttributeName,    CVNCodeMarkerAttributeName,
-        CVNStrikethroughMarkerAttributeName, CVNUnderlineMarkerAttributeName, CVNHighlighterMarkerAttributeName,
-        CVNHashtagMarkerAttributeName,    CVNLinkMarkerAttributeName,        CVNImageMarkerAttributeName,
-        CVNHeadingMarkerAttributeName,    CVNFencedCodeMarkerAttributeName,  CVNListMarkerAttributeName,
-        CVNBlockquoteMarkerAttributeName, CVNReferenceMarkerAttributeName,   CVNFootNoteMarkerAttributeName,
-        CVNWikiLinkMarkerAttributeName,   CVNColorMarkerAttributeName,
+        CVNStrongMarkerAttributeName,     CVNEmphasisMarkerAttributeName,
+        CVNCodeMarkerAttributeName,       CVNStrikethroughMarkerAttributeName,
+        CVNUnderlineMarkerAttributeName,  CVNHighlighterMarkerAttributeName,
+        CVNHashtagMarkerAttributeName,    CVNLinkMarkerAttributeName,
+        CVNImageMarkerAttributeName,      CVNHeadingMarkerAttributeName,
+        CVNFencedCodeMarkerAttributeName, CVNListMarkerAttributeName,
+        CVNBlockquoteMarkerAttributeName, CVNReferenceMarkerAttributeName,
+        CVNFootNoteMarkerAttributeName,   CVNWikiLinkMarkerAttributeName,
+        CVNColorMarkerAttributeName,
     };
 };

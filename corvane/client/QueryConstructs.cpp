@@ -18,6 +18,7 @@ constexpr ConstructKeys rows[] = {
     {CVNStrikethroughAttributeName, CVNStrikethroughMarkerAttributeName, Neighbours::Nested},
     {CVNUnderlineAttributeName, CVNUnderlineMarkerAttributeName, Neighbours::Nested},
     {CVNCodeAttributeName, CVNCodeMarkerAttributeName, Neighbours::Flat},
+    {CVNColorAttributeName, CVNColorMarkerAttributeName, Neighbours::Marked},
     {CVNHighlighterAttributeName, CVNHighlighterMarkerAttributeName, Neighbours::Nested},
     {CVNHashtagAttributeName, CVNHashtagMarkerAttributeName, Neighbours::Flat},
     {CVNHTMLEntityAttributeName, CVNHTMLEntityMarkerAttributeName, Neighbours::Flat},
@@ -30,8 +31,8 @@ constexpr ConstructKeys rows[] = {
 };
 
 const ConstructKeys* rowOf(CVNAttributeName key) {
-    const auto* const row =
-        std::find_if(std::begin(rows), std::end(rows), [&](const ConstructKeys& each) { return each.key == key; });
+    const auto* const row = std::find_if(std::begin(rows), std::end(rows),
+                                         [&](const ConstructKeys& each) { return each.key == key; });
     return row == std::end(rows) ? nullptr : row;
 }
 
@@ -67,7 +68,8 @@ bool ConstructWalk::hasRun() const {
            runs_[run_].end > range_.location;
 }
 
-/// Constructs that don't nest begin at markers that one can tell at sight, so those outside the range are skipped.
+/// Constructs that don't nest begin at markers that one can tell at sight, so those outside the range are
+/// skipped.
 void ConstructWalk::enterRun() {
     rest_ = {};
     if (!hasRun()) return;
@@ -106,24 +108,32 @@ void ConstructWalk::takeConstruct() {
 std::int64_t ConstructWalk::startOfConstruct(std::int64_t index) const {
     const AttributeRun& run = runs_[run_];
     if (neighbours_ == Neighbours::Merged) return run.location;
-    const std::int64_t first = markers_.firstEndingBehind(run.location);
+    const std::int64_t first = firstMarkerOfNext(run.location);
     std::int64_t marker = markers_.firstEndingBehind(index);
     if (marker == markers_.size() || markers_[marker].location >= run.end) --marker;
-    for (; marker > first; --marker) {
+    for (; marker >= first; --marker) {
         const std::int64_t start = boundary(marker, 0);
         if (start <= index) return start;
     }
     return run.location;
 }
 
+/// The first marker that could be another construct's than the one at a location. What is left of a footnote
+/// definition behind a reference has no marker of its own, and neither has «rgb(1, 2, 3)».
+std::int64_t ConstructWalk::firstMarkerOfNext(std::int64_t location) const {
+    const bool isUnmarked = neighbours_ == Neighbours::Flat || neighbours_ == Neighbours::Marked;
+    return markers_.firstEndingBehind(location) + (isUnmarked ? 0 : 1);
+}
+
 /// Where the construct ends that begins at the start of `rest`.
 std::int64_t ConstructWalk::boundaryBehind(CVNRange rest) const {
     if (neighbours_ == Neighbours::Merged) return rest.end();
-    const std::int64_t first = markers_.firstEndingBehind(rest.location);
+    const std::int64_t first = firstMarkerOfNext(rest.location);
     std::int64_t depth = 0;
-    for (std::int64_t marker = first; marker < markers_.size(); ++marker) {
+    for (std::int64_t marker = markers_.firstEndingBehind(rest.location); marker < markers_.size();
+         ++marker) {
         if (markers_[marker].location >= rest.end()) break;
-        const std::int64_t cut = marker > first ? boundary(marker, depth) : CVNNotFound;
+        const std::int64_t cut = marker >= first ? boundary(marker, depth) : CVNNotFound;
         if (cut > rest.location && cut < rest.end()) return cut;
         depth = depthBehind(marker, depth, false);
     }
@@ -133,11 +143,11 @@ std::int64_t ConstructWalk::boundaryBehind(CVNRange rest) const {
 /// Where the construct begins that ends at the end of `rest`.
 std::int64_t ConstructWalk::boundaryBefore(CVNRange rest) const {
     if (neighbours_ == Neighbours::Merged) return rest.location;
-    const std::int64_t first = markers_.firstEndingBehind(rest.location);
+    const std::int64_t first = firstMarkerOfNext(rest.location);
     std::int64_t marker = markers_.firstEndingBehind(rest.end() - 1);
     if (marker == markers_.size() || markers_[marker].location >= rest.end()) --marker;
     std::int64_t depth = 0;
-    for (; marker > first; --marker) {
+    for (; marker >= first; --marker) {
         depth = depthBehind(marker, depth, true);
         const std::int64_t cut = boundary(marker, depth);
         if (cut > rest.location && cut < rest.end()) return cut;
@@ -150,11 +160,10 @@ std::int64_t ConstructWalk::boundaryBefore(CVNRange rest) const {
 std::int64_t ConstructWalk::boundary(std::int64_t marker, std::int64_t depth) const {
     if (neighbours_ == Neighbours::Heading) return headingBoundary(marker);
     const std::int64_t location = markers_[marker].location;
-    bool begins = isOpening(marker);
+    bool begins = isOpening(marker) || neighbours_ == Neighbours::Marked;
     if (neighbours_ == Neighbours::Link) begins = begins && text_.characterAtIndex(location) != u'(';
     if (neighbours_ == Neighbours::Reference) begins = begins && !opensLabel(marker);
-    if (neighbours_ == Neighbours::Nested)
-        begins = begins && depth == 0 && touchesPrevious(marker) && !isOpening(marker - 1);
+    if (neighbours_ == Neighbours::Nested) begins = begins && depth == 0 && touchesPrevious(marker);
     return begins ? location : CVNNotFound;
 }
 
@@ -163,12 +172,10 @@ std::int64_t ConstructWalk::headingBoundary(std::int64_t marker) const {
         return markers_[at].value == CVNValue::integer(CVNHeadingSETEXValue);
     };
     if (!isUnderline(marker)) return markers_[marker].location;
-    const auto end = static_cast<std::size_t>(markers_[marker - 1].end);
-    if (isUnderline(marker - 1)) return markers_[marker - 1].end;
-    std::size_t behindLine = text_.string().find_first_of(u"\n\r", end);
-    if (behindLine == std::u16string_view::npos) return CVNNotFound;
-    behindLine += text_.string().substr(behindLine, 2) == u"\r\n" ? 2 : 1;
-    return static_cast<std::int64_t>(behindLine);
+    const std::int64_t before = markers_[marker - 1].end;
+    if (isUnderline(marker - 1)) return before;
+    const std::int64_t end = lineBreakIn(text_, CVNRange::between(before, markers_[marker].location));
+    return end == CVNNotFound ? CVNNotFound : behindLineBreak(text_, end);
 }
 
 bool ConstructWalk::isOpening(std::int64_t marker) const {
@@ -179,14 +186,20 @@ bool ConstructWalk::touchesPrevious(std::int64_t marker) const {
     return markers_[marker - 1].end == markers_[marker].location;
 }
 
-/// Of the label of «[text][label]», or of the empty one of «[text][]».
+/// Of the label of «[text][label]», or of the empty one of «[text][]», which could be the empty text of
+/// «[][label]».
 bool ConstructWalk::opensLabel(std::int64_t marker) const {
-    if (text_.attribute(CVNReferenceLabelAttributeName, markers_[marker].end)) return true;
-    return touchesPrevious(marker) && marker + 1 < markers_.size() && touchesPrevious(marker + 1);
+    const auto isBeforeLabel = [this](std::int64_t at) {
+        return text_.attribute(CVNReferenceLabelAttributeName, markers_[at].end) != nullptr;
+    };
+    const auto touches = [this](std::int64_t at) { return at < markers_.size() && touchesPrevious(at); };
+    if (isBeforeLabel(marker)) return true;
+    const bool isEmptyPair = touches(marker) && touches(marker + 1);
+    return isEmptyPair && !(touches(marker + 2) && isBeforeLabel(marker + 2));
 }
 
-/// Markers that touch are one run, so what counts is how many characters open or close. A colour that an opening
-/// marker has, and no closing one, is beyond ASCII.
+/// Markers that touch are one run, so what counts is how many characters open or close. A colour that an
+/// opening marker has, and no closing one, is beyond ASCII.
 std::int64_t ConstructWalk::depthBehind(std::int64_t marker, std::int64_t depth, bool isBackward) const {
     if (neighbours_ != Neighbours::Nested) return 0;
     const AttributeRun& run = markers_[marker];

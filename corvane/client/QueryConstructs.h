@@ -14,6 +14,7 @@ namespace CVN::Query {
 /// How a construct of a key begins directly behind another one.
 enum class Neighbours : std::uint8_t {
     Merged,    ///< they can't be told apart
+    Marked,    ///< at every marker
     Flat,      ///< at every opening marker
     Nested,    ///< at an opening marker that touches a closing one, when all that was opened before is closed
     Link,      ///< at an opening marker that is no parenthesis
@@ -36,9 +37,9 @@ CORVANE_EXPORT ConstructKeys constructKeys(CVNAttributeName key, CVNAttributeNam
 CORVANE_EXPORT CVNRange constructAt(const CVNAttributedString& text, const ConstructKeys& keys,
                                     std::int64_t index);
 
-/// A walk over the constructs of a key that reach into a range. It finds the first one with a binary search and
-/// looks no further than to the end of the range; only where constructs nest does it read a run that reaches in
-/// from that run's end.
+/// A walk over the constructs of a key that reach into a range. A binary search finds the first one, and
+/// nothing is read behind the last one. Only where constructs nest, all markers of a run that reaches into
+/// the range are read: what is open there is known no other way.
 class CORVANE_EXPORT ConstructWalk {
 public:
     ConstructWalk(const CVNAttributedString& text, const ConstructKeys& keys, CVNRange range,
@@ -56,6 +57,7 @@ private:
     void enterRun();
     void takeConstruct();
     std::int64_t startOfConstruct(std::int64_t index) const;
+    std::int64_t firstMarkerOfNext(std::int64_t location) const;
     std::int64_t boundaryBehind(CVNRange rest) const;
     std::int64_t boundaryBefore(CVNRange rest) const;
     std::int64_t boundary(std::int64_t marker, std::int64_t depth) const;
@@ -76,12 +78,21 @@ private:
     CVNRange construct_{};
 };
 
-/// Calls `block` with (CVNRange range, const CVNValue& value, bool& stop) for each construct, clipped to `range`.
+/// Calls `block` with (CVNRange range, const CVNValue& value, bool& stop) for each construct, clipped to
+/// `range`.
 template <class Block>
 void forEachConstruct(const CVNAttributedString& text, const ConstructKeys& keys, CVNRange range,
                       CVNEnumerationOptions options, Block&& block) {
     bool stop = false;
     for (ConstructWalk walk(text, keys, range, options); !stop && walk.next();)
+        block(walk.constructInRange(), walk.value(), stop);
+}
+
+/// The same for each run of the key, unless and until `stop`, which the block can set.
+template <class Block>
+void forEachRun(const CVNAttributedString& text, CVNAttributeName key, CVNRange range,
+                CVNEnumerationOptions options, bool& stop, Block&& block) {
+    for (ConstructWalk walk(text, {key, key, Neighbours::Merged}, range, options); !stop && walk.next();)
         block(walk.constructInRange(), walk.value(), stop);
 }
 

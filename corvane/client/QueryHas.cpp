@@ -4,20 +4,20 @@
 
 namespace CVN::Query {
 
-bool hasAny(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+bool Answer::hasAny(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
     return keys.hasKeyWhere([&](CVNAttributeName key) { return text.attribute(key, index) != nullptr; });
 }
 
-bool hasTaskMarker(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+bool Answer::hasTaskMarker(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
     const ItemRuns items(text, keys);
     const std::int64_t run = items.at(index);
     return run != ItemRuns::noRun && items.info(run).isTaskList() && text.attribute(keys[1], index);
 }
 
-bool hasSublist(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
+bool Answer::hasSublist(const CVNAttributedString& text, const KeyList& keys, std::int64_t index) {
     const ItemRuns items(text, keys);
     const std::int64_t run = items.at(index);
-    return run != ItemRuns::noRun && items.hasSubItems(items.firstOfItem(run));
+    return run != ItemRuns::noRun && items.hasSubitems(items.firstOfItem(run));
 }
 
 } // namespace CVN::Query

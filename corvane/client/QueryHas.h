@@ -7,6 +7,8 @@
 
 namespace CVN::Query {
 
+namespace Answer {
+
 /// Whether one of the keys has a value.
 CORVANE_EXPORT bool hasAny(const CVNAttributedString& text, const KeyList& keys, std::int64_t index);
 /// Whether one of the keys has that number.
@@ -20,6 +22,8 @@ bool hasNumber(const CVNAttributedString& text, const KeyList& keys, std::int64_
 CORVANE_EXPORT bool hasTaskMarker(const CVNAttributedString& text, const KeyList& keys, std::int64_t index);
 CORVANE_EXPORT bool hasSublist(const CVNAttributedString& text, const KeyList& keys, std::int64_t index);
 
+} // namespace Answer
+
 /// The marker keys that tell an opening marker from a closing one.
 inline constexpr KeyList pairedMarkers = {
     CVNStrongMarkerAttributeName,        CVNEmphasisMarkerAttributeName,  CVNCodeMarkerAttributeName,
@@ -29,45 +33,50 @@ inline constexpr KeyList pairedMarkers = {
     CVNWikiLinkMarkerAttributeName};
 
 /// Syntax that an editor may hide.
-inline constexpr IndexTest hasMarkerAtIndex{
-    "hasMarkerAtIndex", KeyList(CVNAttributes::markerAttributes()), hasAny};
+inline constexpr IndexTest hasMarkerAtIndex{"hasMarkerAtIndex", KeyList(CVNAttributes::markerAttributes()),
+                                            Answer::hasAny};
 /// Of a heading, a list item or a quote: a sentence begins behind it.
 inline constexpr IndexTest hasBeginOfSentenceMarkerAtIndex{
     "hasBeginOfSentenceMarkerAtIndex",
     {CVNHeadingMarkerAttributeName, CVNListMarkerAttributeName, CVNBlockquoteMarkerAttributeName},
-    hasAny};
+    Answer::hasAny};
 inline constexpr IndexTest hasHeaderMarkerAtIndex{
-    "hasHeaderMarkerAtIndex", {CVNHeadingMarkerAttributeName}, hasAny};
-inline constexpr IndexTest hasListMarkerAtIndex{"hasListMarkerAtIndex", {CVNListMarkerAttributeName}, hasAny};
+    "hasHeaderMarkerAtIndex", {CVNHeadingMarkerAttributeName}, Answer::hasAny};
+inline constexpr IndexTest hasListMarkerAtIndex{
+    "hasListMarkerAtIndex", {CVNListMarkerAttributeName}, Answer::hasAny};
 inline constexpr IndexTest hasBlockquoteMarkerAtIndex{
-    "hasBlockquoteMarkerAtIndex", {CVNBlockquoteMarkerAttributeName}, hasAny};
-inline constexpr IndexTest hasTableAtIndex{"hasTableAtIndex", {CVNTableAttributeName}, hasAny};
+    "hasBlockquoteMarkerAtIndex", {CVNBlockquoteMarkerAttributeName}, Answer::hasAny};
+inline constexpr IndexTest hasTableAtIndex{"hasTableAtIndex", {CVNTableAttributeName}, Answer::hasAny};
 /// Not at a reference that stands in a definition.
 inline constexpr IndexTest hasFootnoteDefinitionAtIndex{
-    "hasFootnoteDefinitionAtIndex", {CVNFootNoteAttributeName}, hasNumber<2>};
-inline constexpr IndexTest hasYamlAtIndex{"hasYamlAtIndex", {CVNYamlAttributeName}, hasAny};
-inline constexpr IndexTest hasFoldAtIndex{"hasFoldAtIndex", {CVNFoldAttributeName}, hasAny};
-inline constexpr IndexTest hasHighlightAtIndex{"hasHighlightAtIndex", {CVNHighlighterAttributeName}, hasAny};
-inline constexpr IndexTest hasHTMLBlockAtIndex{"hasHTMLBlockAtIndex", {CVNHTMLBlockAttributeName}, hasAny};
+    "hasFootnoteDefinitionAtIndex", {CVNFootNoteAttributeName}, Answer::hasNumber<2>};
+inline constexpr IndexTest hasYamlAtIndex{"hasYamlAtIndex", {CVNYamlAttributeName}, Answer::hasAny};
+inline constexpr IndexTest hasFoldAtIndex{"hasFoldAtIndex", {CVNFoldAttributeName}, Answer::hasAny};
+inline constexpr IndexTest hasHighlightAtIndex{
+    "hasHighlightAtIndex", {CVNHighlighterAttributeName}, Answer::hasAny};
+inline constexpr IndexTest hasHTMLBlockAtIndex{
+    "hasHTMLBlockAtIndex", {CVNHTMLBlockAttributeName}, Answer::hasAny};
 inline constexpr IndexTest hasIndentSpaceAtIndex{
-    "hasIndentSpaceAtIndex", {CVNIndentSpaceAttributeName}, hasAny};
+    "hasIndentSpaceAtIndex", {CVNIndentSpaceAttributeName}, Answer::hasAny};
 /// The marker of a task, with its box.
-inline constexpr IndexTest hasTaskListMarkerAtIndex{
-    "hasTaskListMarkerAtIndex", {CVNListItemAttributeName, CVNListMarkerAttributeName}, hasTaskMarker};
+inline constexpr IndexTest hasTaskListMarkerAtIndex{"hasTaskListMarkerAtIndex",
+                                                    {CVNListItemAttributeName, CVNListMarkerAttributeName},
+                                                    Answer::hasTaskMarker};
 /// Whether the innermost item around the index has items below it.
 inline constexpr IndexTest hasListWithSublistAtIndex{
-    "hasListWithSublistAtIndex", {CVNListItemAttributeName, CVNListMarkerAttributeName}, hasSublist};
+    "hasListWithSublistAtIndex", {CVNListItemAttributeName, CVNListMarkerAttributeName}, Answer::hasSublist};
 
-inline constexpr IndexTest hasOpeningMarkerAtIndex{
-    "hasOpeningMarkerAtIndex", pairedMarkers, hasNumber<CVNOpenMarkerValue>};
-inline constexpr IndexTest hasClosingMarkerAtIndex{
-    "hasClosingMarkerAtIndex", pairedMarkers, hasNumber<CVNCloseMarkerValue>};
+inline constexpr IndexTest hasOpeningMarkerAtIndex{"hasOpeningMarkerAtIndex", pairedMarkers,
+                                                   Answer::hasNumber<CVNOpenMarkerValue>};
+inline constexpr IndexTest hasClosingMarkerAtIndex{"hasClosingMarkerAtIndex", pairedMarkers,
+                                                   Answer::hasNumber<CVNCloseMarkerValue>};
 inline constexpr IndexTest hasOpeningTagMarkerAtIndex{
-    "hasOpeningTagMarkerAtIndex", {CVNHashtagMarkerAttributeName}, hasNumber<CVNOpenMarkerValue>};
+    "hasOpeningTagMarkerAtIndex", {CVNHashtagMarkerAttributeName}, Answer::hasNumber<CVNOpenMarkerValue>};
 inline constexpr IndexTest hasClosingTagMarkerAtIndex{
-    "hasClosingTagMarkerAtIndex", {CVNHashtagMarkerAttributeName}, hasNumber<CVNCloseMarkerValue>};
-inline constexpr IndexTest hasClosingHighlightMarkerAtIndex{
-    "hasClosingHighlightMarkerAtIndex", {CVNHighlighterMarkerAttributeName}, hasNumber<CVNCloseMarkerValue>};
+    "hasClosingTagMarkerAtIndex", {CVNHashtagMarkerAttributeName}, Answer::hasNumber<CVNCloseMarkerValue>};
+inline constexpr IndexTest hasClosingHighlightMarkerAtIndex{"hasClosingHighlightMarkerAtIndex",
+                                                            {CVNHighlighterMarkerAttributeName},
+                                                            Answer::hasNumber<CVNCloseMarkerValue>};
 
 inline constexpr const IndexTest* hasQueries[] = {
     &hasMarkerAtIndex,

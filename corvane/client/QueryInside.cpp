@@ -15,14 +15,15 @@ bool holdsAtAnEnd(const CVNAttributedString& text, CVNRange range, Predicate&& p
 } // namespace
 
 bool isRangeInside(const CVNAttributedString& text, CVNRange range, CVNAttributeName key) {
-    return holdsAtAnEnd(text, range, [&](std::int64_t index) { return text.attribute(key, index) != nullptr; });
+    return holdsAtAnEnd(text, range,
+                        [&](std::int64_t index) { return text.attribute(key, index) != nullptr; });
 }
 
-bool isInsideAny(const CVNAttributedString& text, const KeyList& keys, CVNRange range) {
+bool Answer::isInsideAny(const CVNAttributedString& text, const KeyList& keys, CVNRange range) {
     return keys.hasKeyWhere([&](CVNAttributeName key) { return isRangeInside(text, range, key); });
 }
 
-bool isInsideTask(const CVNAttributedString& text, const KeyList& keys, CVNRange range) {
+bool Answer::isInsideTask(const CVNAttributedString& text, const KeyList& keys, CVNRange range) {
     return holdsAtAnEnd(text, range, [&](std::int64_t index) {
         const CVNValue* const value = text.attribute(keys[0], index);
         const CVNListInfo* const info = value ? value->listInfoValue() : nullptr;

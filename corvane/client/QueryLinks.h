@@ -7,13 +7,13 @@
 
 /// Links and images with a destination of their own; those in reference form are enumerateReferenceInRange's.
 ///
-/// The block gets (const LinkRanges& link, bool& stop) for each. Of a link that reaches out of the range the part
-/// inside counts.
+/// The block gets (const LinkRanges& link, bool& stop) for each. Of a link that reaches out of the range the
+/// part inside counts.
 
 namespace CVN::Query {
 
-/// Where a link is and what it is made of, a range for each key; {CVNNotFound, 0} for what it doesn't have. An
-/// empty label and an empty destination are not there. What an editor hides is all but the label.
+/// Where a link is and what it is made of, a range for each key; {CVNNotFound, 0} for what it doesn't have.
+/// An empty label and an empty destination are not there. What an editor hides is all but the label.
 struct LinkRanges {
     CVNRange link;
     CVNRange opening; ///< the first marker, "[" or "!["
@@ -34,8 +34,9 @@ struct LinkQuery {
     template <class Block>
     void operator()(const CVNAttributedString& text, CVNRange range, CVNEnumerationOptions options,
                     Block&& block) const {
-        forEachConstruct(text, constructKeys(key, markerKey), range, options,
-                         [&](CVNRange link, const CVNValue&, bool& stop) { block(rangesOf(text, link), stop); });
+        forEachConstruct(
+            text, constructKeys(key, markerKey), range, options,
+            [&](CVNRange link, const CVNValue&, bool& stop) { block(rangesOf(text, link), stop); });
     }
 
     /// Of a link that is there.
@@ -49,12 +50,12 @@ void enumerateLinkAttribute(const CVNAttributedString& text, CVNAttributeName ke
     LinkQuery{{}, key, markerKey, urlKey, titleKey, labelKey}(text, range, options, block);
 }
 
-inline constexpr LinkQuery enumerateLinkInRange{
-    "enumerateLinkInRange",  CVNLinkAttributeName,      CVNLinkMarkerAttributeName,
-    CVNLinkURLAttributeName, CVNLinkTitleAttributeName, CVNLinkLabelAttributeName};
-inline constexpr LinkQuery enumerateImageInRange{
-    "enumerateImageInRange",  CVNImageAttributeName,      CVNImageMarkerAttributeName,
-    CVNImageURLAttributeName, CVNImageTitleAttributeName, CVNImageLabelAttributeName};
+inline constexpr LinkQuery enumerateLinkInRange{"enumerateLinkInRange",     CVNLinkAttributeName,
+                                                CVNLinkMarkerAttributeName, CVNLinkURLAttributeName,
+                                                CVNLinkTitleAttributeName,  CVNLinkLabelAttributeName};
+inline constexpr LinkQuery enumerateImageInRange{"enumerateImageInRange",     CVNImageAttributeName,
+                                                 CVNImageMarkerAttributeName, CVNImageURLAttributeName,
+                                                 CVNImageTitleAttributeName,  CVNImageLabelAttributeName};
 
 inline constexpr const LinkQuery* linkQueries[] = {&enumerateLinkInRange, &enumerateImageInRange};
 

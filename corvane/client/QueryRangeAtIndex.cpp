@@ -4,8 +4,8 @@
 
 namespace CVN::Query {
 
-CVNRange constructRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
-                        CVNRange* markerRange) {
+CVNRange Answer::constructRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
+                                CVNRange* markerRange) {
     CVNRange range = CVNRange::notFound();
     keys.hasKeyWhere([&](CVNAttributeName key) {
         const ConstructKeys construct = constructKeys(key);
@@ -17,8 +17,8 @@ CVNRange constructRange(const CVNAttributedString& text, const KeyList& keys, st
     return range;
 }
 
-CVNRange closingMarkerRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
-                            CVNRange*) {
+CVNRange Answer::closingMarkerRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
+                                    CVNRange*) {
     CVNRange range = CVNRange::notFound();
     keys.hasKeyWhere([&](CVNAttributeName key) {
         const CVNValue* const value = text.attribute(key, index);
@@ -29,8 +29,8 @@ CVNRange closingMarkerRange(const CVNAttributedString& text, const KeyList& keys
     return range;
 }
 
-CVNRange referenceLabelRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
-                             CVNRange*) {
+CVNRange Answer::referenceLabelRange(const CVNAttributedString& text, const KeyList& keys, std::int64_t index,
+                                     CVNRange*) {
     const CVNRange reference = constructAt(text, constructKeys(keys[0]), index);
     if (!reference.isFound()) {
         const CVNRange definition = constructAt(text, constructKeys(keys[1]), index);

@@ -9,6 +9,8 @@
 
 namespace CVN::Query {
 
+namespace Answer {
+
 /// Of the first of the keys that has a value at the index.
 CORVANE_EXPORT CVNRange constructRange(const CVNAttributedString& text, const KeyList& keys,
                                        std::int64_t index, CVNRange* markerRange);
@@ -18,39 +20,43 @@ CORVANE_EXPORT CVNRange closingMarkerRange(const CVNAttributedString& text, cons
 CORVANE_EXPORT CVNRange referenceLabelRange(const CVNAttributedString& text, const KeyList& keys,
                                             std::int64_t index, CVNRange* markerRange);
 
+} // namespace Answer
+
 inline constexpr RangeAtIndexQuery headerRangeAtIndex{
-    "headerRangeAtIndex", {CVNHeadingAttributeName}, constructRange};
+    "headerRangeAtIndex", {CVNHeadingAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery linkRangeAtIndex{
-    "linkRangeAtIndex", {CVNLinkAttributeName}, constructRange};
+    "linkRangeAtIndex", {CVNLinkAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery autoLinkRangeAtIndex{
-    "autoLinkRangeAtIndex", {CVNAutoLinkURLAttributeName, CVNAutoLinkEmailAttributeName}, constructRange};
+    "autoLinkRangeAtIndex",
+    {CVNAutoLinkURLAttributeName, CVNAutoLinkEmailAttributeName},
+    Answer::constructRange};
 inline constexpr RangeAtIndexQuery autoLinkEmailRangeAtIndex{
-    "autoLinkEmailRangeAtIndex", {CVNAutoLinkEmailAttributeName}, constructRange};
+    "autoLinkEmailRangeAtIndex", {CVNAutoLinkEmailAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery autoLinkURLRangeAtIndex{
-    "autoLinkURLRangeAtIndex", {CVNAutoLinkURLAttributeName}, constructRange};
+    "autoLinkURLRangeAtIndex", {CVNAutoLinkURLAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery colorRangeAtIndex{
-    "colorRangeAtIndex", {CVNColorAttributeName}, constructRange};
+    "colorRangeAtIndex", {CVNColorAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery arrowRangeAtIndex{
-    "arrowRangeAtIndex", {CVNArrowAttributeName}, constructRange};
+    "arrowRangeAtIndex", {CVNArrowAttributeName}, Answer::constructRange};
 /// A reference, or a definition up to a reference in it, or from there on.
 inline constexpr RangeAtIndexQuery footnoteRangeAtIndex{
-    "footnoteRangeAtIndex", {CVNFootNoteAttributeName}, constructRange};
+    "footnoteRangeAtIndex", {CVNFootNoteAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery codeRangeAtIndex{
-    "codeRangeAtIndex", {CVNCodeAttributeName}, constructRange};
+    "codeRangeAtIndex", {CVNCodeAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery codeBlockRangeAtIndex{
-    "codeBlockRangeAtIndex", {CVNFencedCodeAttributeName}, constructRange};
+    "codeBlockRangeAtIndex", {CVNFencedCodeAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery indentedCodeRangeAtIndex{
-    "indentedCodeRangeAtIndex", {CVNIndentedCodeAttributeName}, constructRange};
+    "indentedCodeRangeAtIndex", {CVNIndentedCodeAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery metadataRangeAtIndex{
-    "metadataRangeAtIndex", {CVNMetadataAttributeName}, constructRange};
+    "metadataRangeAtIndex", {CVNMetadataAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery hashTagRangeAtIndex{
-    "hashTagRangeAtIndex", {CVNHashtagAttributeName}, constructRange};
+    "hashTagRangeAtIndex", {CVNHashtagAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery wikiLinkRangeAtIndex{
-    "wikiLinkRangeAtIndex", {CVNWikiLinkAttributeName}, constructRange};
+    "wikiLinkRangeAtIndex", {CVNWikiLinkAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery highlighterRangeAtIndex{
-    "highlighterRangeAtIndex", {CVNHighlighterAttributeName}, constructRange};
+    "highlighterRangeAtIndex", {CVNHighlighterAttributeName}, Answer::constructRange};
 inline constexpr RangeAtIndexQuery mathRangeAtIndex{
-    "mathRangeAtIndex", {CVNMathSpanAttributeName, CVNMathBlockAttributeName}, constructRange};
+    "mathRangeAtIndex", {CVNMathSpanAttributeName, CVNMathBlockAttributeName}, Answer::constructRange};
 /// The closing marker at the index, over which a caret jumps; closing markers that touch are one.
 inline constexpr RangeAtIndexQuery inlineClosingMarkerRangeAtIndex{
     "inlineClosingMarkerRangeAtIndex",
@@ -59,13 +65,13 @@ inline constexpr RangeAtIndexQuery inlineClosingMarkerRangeAtIndex{
      CVNHashtagMarkerAttributeName, CVNLinkMarkerAttributeName, CVNImageMarkerAttributeName,
      CVNReferenceMarkerAttributeName, CVNFootNoteMarkerAttributeName, CVNWikiLinkMarkerAttributeName,
      CVNMathSpanMarkerAttributeName, CVNHTMLEntityMarkerAttributeName, CVNAutoLinkMarkerAttributeName},
-    closingMarkerRange};
+    Answer::closingMarkerRange};
 /// The label by which the reference at the index finds its definition: that of «[text][label]», the text of
 /// «[label][]» and «[label]»; and the label of a definition.
 inline constexpr RangeAtIndexQuery referenceLabelRangeForReferenceAtIndex{
     "referenceLabelRangeForReferenceAtIndex",
     {CVNReferenceAttributeName, CVNReferenceDefinitionAttributeName},
-    referenceLabelRange};
+    Answer::referenceLabelRange};
 
 inline constexpr const RangeAtIndexQuery* rangeAtIndexQueries[] = {
     &headerRangeAtIndex,

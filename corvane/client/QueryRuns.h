@@ -8,8 +8,8 @@
 /// Constructs of one key.
 ///
 /// The block gets (CVNRange range, const CVNValue& value, bool& stop) for each, clipped to the range that is
-/// enumerated. Those that touch and have equal values come one by one when their markers tell them apart, as one
-/// when nothing does: «<b><i>» is one stretch of inline HTML.
+/// enumerated. Those that touch and have equal values come one by one when their markers tell them apart, as
+/// one when nothing does: «<b><i>» is one stretch of inline HTML.
 
 namespace CVN::Query {
 
@@ -35,7 +35,8 @@ inline constexpr RunQuery enumerateColorInRange{"enumerateColorInRange", CVNColo
 inline constexpr RunQuery enumerateArrowInRange{"enumerateArrowInRange", CVNArrowAttributeName};
 /// The backslashes.
 inline constexpr RunQuery enumerateEscapeInRange{"enumerateEscapeInRange", CVNEscapeAttributeName};
-inline constexpr RunQuery enumerateHTMLInlineInRange{"enumerateHTMLInlineInRange", CVNHTMLInlineAttributeName};
+inline constexpr RunQuery enumerateHTMLInlineInRange{"enumerateHTMLInlineInRange",
+                                                     CVNHTMLInlineAttributeName};
 inline constexpr RunQuery enumerateAutoLinkEmailInRange{"enumerateAutoLinkEmailInRange",
                                                         CVNAutoLinkEmailAttributeName};
 inline constexpr RunQuery enumerateAutoLinkURLInRange{"enumerateAutoLinkURLInRange",
@@ -66,24 +67,15 @@ inline constexpr RunQuery enumerateHTMLBlockInRange{"enumerateHTMLBlockInRange",
 inline constexpr RunQuery enumerateCalloutInRange{"enumerateCalloutInRange", CVNCalloutAttributeName};
 
 inline constexpr const RunQuery* runQueries[] = {
-    &enumerateColorInRange,
-    &enumerateArrowInRange,
-    &enumerateEscapeInRange,
-    &enumerateHTMLInlineInRange,
-    &enumerateAutoLinkEmailInRange,
-    &enumerateAutoLinkURLInRange,
-    &enumerateReferenceInRange,
-    &enumerateReferenceDefinitionInRange,
-    &enumerateFootnotesInRange,
-    &enumerateWikiLinkInRange,
-    &enumerateMetadataInRange,
-    &enumerateFoldInRange,
-    &enumerateHTMLEntitiesInRange,
-    &enumerateHardLinebreakInRange,
-    &enumerateThematicBreakInRange,
-    &enumerateHeadingInRange,
-    &enumerateIndentedCodeInRange,
-    &enumerateHTMLBlockInRange,
+    &enumerateColorInRange,         &enumerateArrowInRange,
+    &enumerateEscapeInRange,        &enumerateHTMLInlineInRange,
+    &enumerateAutoLinkEmailInRange, &enumerateAutoLinkURLInRange,
+    &enumerateReferenceInRange,     &enumerateReferenceDefinitionInRange,
+    &enumerateFootnotesInRange,     &enumerateWikiLinkInRange,
+    &enumerateMetadataInRange,      &enumerateFoldInRange,
+    &enumerateHTMLEntitiesInRange,  &enumerateHardLinebreakInRange,
+    &enumerateThematicBreakInRange, &enumerateHeadingInRange,
+    &enumerateIndentedCodeInRange,  &enumerateHTMLBlockInRange,
     &enumerateCalloutInRange,
 };
 

@@ -11,9 +11,9 @@
 #include "corvane/client/CVNListInfo.h"
 #include "corvane/scan/Export.h"
 
-/// The types of queries that are told apart by what they take and answer. A query is a constant: its name, the
-/// keys that it reads, and the function that it shares with others of its kind. CVNQuery.h says what all of
-/// them have in common, and finds them by name.
+/// The types of queries, told apart by what they take and answer. A query is a constant: its name, the keys
+/// that it reads, and a function of the namespace Answer that it may share with others. CVNQuery.h says what
+/// all have in common, and finds them by name.
 
 namespace CVN::Query {
 
@@ -48,7 +48,9 @@ struct RangeTest {
     KeyList keys;
     bool (*holds)(const CVNAttributedString& text, const KeyList& keys, CVNRange range);
 
-    bool operator()(const CVNAttributedString& text, CVNRange range) const { return holds(text, keys, range); }
+    bool operator()(const CVNAttributedString& text, CVNRange range) const {
+        return holds(text, keys, range);
+    }
 };
 
 /// Whether something is so of the character at an index.
@@ -128,12 +130,16 @@ struct ItemInfoQuery {
     }
 };
 
-/// The query of a table with that name, null when there is none.
-template <class Query, std::size_t count>
-constexpr const Query* queryNamed(const Query* const (&table)[count], std::string_view name) {
-    for (const Query* const query : table)
-        if (query->name == name) return query;
-    return nullptr;
+/// The query with that name of one of the tables, null when there is none.
+template <class Query, std::size_t... counts>
+constexpr const Query* queryNamed(std::string_view name, const Query* const (&... tables)[counts]) {
+    const Query* found = nullptr;
+    const auto look = [&](const Query* const* table, std::size_t count) {
+        for (; count > 0; ++table, --count)
+            if ((*table)->name == name) found = *table;
+    };
+    (look(tables, counts), ...);
+    return found;
 }
 
 } // namespace CVN::Query

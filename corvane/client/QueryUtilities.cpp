@@ -59,14 +59,34 @@ CVNRange lastRunIn(const CVNAttributedString& text, CVNAttributeName key, CVNRan
     return CVNRange::intersect(rangeOf(runs[last]), range);
 }
 
+bool isBlankOrQuoteMarker(const CVNAttributedString& text, std::int64_t index) {
+    const char16_t c = text.characterAtIndex(index);
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' ||
+           text.attribute(CVNBlockquoteMarkerAttributeName, index);
+}
+
+std::int64_t lineBreakIn(const CVNAttributedString& text, CVNRange range) {
+    const std::u16string_view part = text.string().substr(static_cast<std::size_t>(range.location),
+                                                          static_cast<std::size_t>(range.length));
+    const std::size_t found = part.find_first_of(u"\n\r");
+    return found == std::u16string_view::npos ? CVNNotFound
+                                              : range.location + static_cast<std::int64_t>(found);
+}
+
+std::int64_t behindLineBreak(const CVNAttributedString& text, std::int64_t location) {
+    const bool isPair = text.string().substr(static_cast<std::size_t>(location), 2) == u"\r\n";
+    return location + (isPair ? 2 : 1);
+}
+
 CVNRange extendRange(const CVNAttributedString& text, CVNRange range,
                      std::span<const CVNAttributeName> keys) {
     if (range.location < 0 || range.location > text.length()) return range;
     CVNRange grown = clippedRange(text, range);
+    const std::int64_t start = grown.location;
     for (const CVNAttributeName key : keys) {
-        const std::int64_t last = grown.length > 0 ? grown.end() - 1 : grown.location;
-        const std::int64_t start = startOfRunsThatEndAt(text, key, grown.location);
-        grown = CVNRange::between(start, std::max(grown.end(), endOfRunsFrom(text, key, last)));
+        const std::int64_t last = std::max(grown.end() - 1, start);
+        const std::int64_t grownStart = startOfRunsThatEndAt(text, key, grown.location);
+        grown = CVNRange::between(grownStart, std::max(grown.end(), endOfRunsFrom(text, key, last)));
     }
     return grown;
 }

@@ -7,10 +7,10 @@
 
 /// Constructs with a marker at both ends.
 ///
-/// The block gets (CVNRange text, CVNRange opening, CVNRange closing, bool& stop) for each: what stands between
-/// the markers, and the markers, {CVNNotFound, 0} for one that is absent. The text of a fenced block begins
-/// behind the fence, with the info string. Of a construct that reaches out of the range the part inside counts.
-/// A construct nested in itself gives one call, of its outer markers.
+/// The block gets (CVNRange text, CVNRange opening, CVNRange closing, bool& stop) for each: what stands
+/// between the markers, and the markers, {CVNNotFound, 0} for one that is absent. The text of a fenced block
+/// begins behind the fence, with the info string. Of a construct that reaches out of the range the part
+/// inside counts. A construct nested in itself gives one call, of its outer markers.
 
 namespace CVN::Query {
 
@@ -20,8 +20,8 @@ struct Wrapping {
     CVNRange closing;
 };
 
-/// The first and last marker of a construct, and what lies between. A marker that is the only one is the opening
-/// one, unless it stands at the end and something is before it.
+/// The first and last marker of a construct, and what lies between. A marker that is the only one is the
+/// opening one, unless it stands at the end and something is before it.
 CORVANE_EXPORT Wrapping wrappingOf(const CVNAttributedString& text, CVNAttributeName markerKey,
                                    CVNRange construct);
 
