@@ -27,3 +27,38 @@ function(corvane_target target)
         target_link_options(${target} PRIVATE ${flags})
     endif()
 endfunction()
+
+# So that a plugin can hold a static library, too.
+if(NOT DEFINED CMAKE_POSITION_INDEPENDENT_CODE)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
+
+# Adds a library TARGET of KIND, file name OUTPUT, exported and aliased as corvane::EXPORT, from the caller's `sources`.
+# Its public headers, the caller's `headers`, are included by their path below BASE_DIR.
+function(corvane_library target kind output export base_dir)
+    if(CORVANE_INSTALL)
+        add_library(${target} ${kind} ${sources})
+    else()
+        add_library(${target} ${kind} EXCLUDE_FROM_ALL ${sources})
+    endif()
+    add_library(corvane::${export} ALIAS ${target})
+    corvane_target(${target})
+    target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
+    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${base_dir}" FILES ${headers})
+    set_target_properties(
+        ${target}
+        PROPERTIES OUTPUT_NAME ${output}
+                   EXPORT_NAME ${export}
+                   CXX_VISIBILITY_PRESET hidden
+                   VISIBILITY_INLINES_HIDDEN ON)
+    if(kind STREQUAL SHARED)
+        string(TOUPPER ${output} macro)
+        target_compile_definitions(${target} PUBLIC ${macro}_SHARED)
+        # Until 1.0 each minor version may break the binary interface.
+        set_target_properties(
+            ${target}
+            PROPERTIES DEFINE_SYMBOL ${macro}_BUILDING
+                       VERSION ${PROJECT_VERSION}
+                       SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    endif()
+endfunction()
