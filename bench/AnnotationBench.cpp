@@ -50,8 +50,13 @@ void annotateNote(benchmark::State& state) {
     state.counters["bytes_per_run"] = bytes / static_cast<double>(runCount(runs));
 }
 
-/// Types and deletes a character in turn.
-void typeAndRestyle(benchmark::State& state) {
+bool isPlainText(const Tree& tree, std::int64_t offset) {
+    return tree.nodeAtOffset(offset, LevelSetting::Leaf)->parent->type == ONDO_PARAGRAPH_NODE;
+}
+
+/// Types and deletes a character in turn. In the label of a link it restyles all from the first to the last
+/// use of the label; `onlyText` leaves out these and all other inlines.
+void typeAndRestyle(benchmark::State& state, bool onlyText) {
     CVNAST note = CVNAST::fromMarkdown(noteToTypeIn(state, u"# Note\n\n"));
     MiddleOfNote place;
     std::vector<double> editing;
@@ -60,7 +65,10 @@ void typeAndRestyle(benchmark::State& state) {
     std::int64_t offset = 0;
     bool isTyping = true;
     for (auto _ : state) {
-        if (isTyping) offset = place(*note.ast);
+        while (isTyping) {
+            offset = place(*note.ast);
+            if (!onlyText || isPlainText(*note.ast, offset)) break;
+        }
         const double start = cpuSeconds();
         const CVNRange range = note.replaceRange({offset, isTyping ? 0 : 1}, isTyping ? u"x" : u"");
         const double edited = cpuSeconds();
@@ -83,14 +91,13 @@ BENCHMARK(annotateNote)
     ->Arg(10'000)
     ->Arg(1'000'000)
     ->Arg(10'000'000);
-BENCHMARK(typeAndRestyle)
-    ->UseManualTime()
-    ->Unit(benchmark::kMicrosecond)
-    ->Iterations(4000)
-    ->Arg(10'000)
-    ->Arg(100'000)
-    ->Arg(1'000'000)
-    ->Arg(10'000'000);
+void keystrokes(benchmark::internal::Benchmark* b) {
+    b->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(4000);
+    b->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Arg(10'000'000);
+}
+
+BENCHMARK_CAPTURE(typeAndRestyle, text, true)->Apply(keystrokes);
+BENCHMARK_CAPTURE(typeAndRestyle, anywhere, false)->Apply(keystrokes);
 
 } // namespace
 } // namespace Ondo::Bench
