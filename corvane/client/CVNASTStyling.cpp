@@ -88,8 +88,8 @@ void Widening::takeBlockAt(std::int64_t offset) {
     if (block && block != tree_.root.get()) unite(block);
 }
 
-/// The run of a fold hangs on its head, and its end on the first block that is not hidden: when the range begins in
-/// what a fold hides or directly behind it, all from the head on belongs to it.
+/// The run of a fold hangs on its head, and its end on the first block that is not hidden: when the range
+/// begins in what a fold hides or directly behind it, all from the head on belongs to it.
 void Widening::takeFoldsAround() {
     const Node* head = headOfFoldAt(range_.location);
     if (!head && range_.location > 0) head = headOfFoldAt(range_.location - 1);
