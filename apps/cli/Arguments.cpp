@@ -102,6 +102,7 @@ void addAnnotate(CLI::App& app, Options& options) {
 void addShow(CLI::App& app, Options& options) {
     addNote(app, options);
     addChoice(app, "--color", colorChoices, options.colors, "When to use colours");
+    app.get_option("--color")->take_last(); // so that who has an alias can overrule it
 }
 
 void addEdit(CLI::App& app, Options& options) {
@@ -147,7 +148,7 @@ Example:
   corvane annotate --range 0,100 note.md)"},
     {"show", "Print a note as a person would like to read it", addShow, show,
      R"(On a terminal the note is painted. Everywhere tasks are boxes, a folded section is an ellipsis, and control
-characters other than tabs and line endings are shown by signs. A painted line with right-to-left text
+characters other than tabs and line endings are shown by signs. A painted line of a right-to-left block
 ends with a dim arrow. The colours of "auto" are used on a terminal, unless NO_COLOR is set in the
 environment and not empty, or TERM is "dumb".
 

@@ -30,11 +30,20 @@ std::u16string sequenceFor(const Pen& pen) {
 }
 
 /// A control of the second set is the same as an escape and a letter.
+constexpr char16_t substitute = u'\u2426';
+
+/// Embeddings, overrides and isolates, which turn around what stands behind them.
+bool isDirectionControl(char16_t c) {
+    return (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);
+}
+
 void addVisible(char16_t c, std::u16string& out) {
     if (c >= 0x80 && c < 0xA0)
         out += {escapePicture, static_cast<char16_t>(c - 0x40)};
     else if (c == 0x7F)
         out += deletePicture;
+    else if (isDirectionControl(c))
+        out += substitute;
     else if (c < 0x20 && c != u'\t')
         out += static_cast<char16_t>(firstPicture + c);
     else

@@ -11,6 +11,12 @@ bool isControl(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
+/// U+0080 to U+009F in UTF-8.
+bool isSecondOfControl(char first, char second) {
+    const auto byte = static_cast<unsigned char>(second);
+    return static_cast<unsigned char>(first) == 0xC2 && byte >= 0x80 && byte < 0xA0;
+}
+
 } // namespace
 
 int writeOutput(const std::string& text) {
@@ -21,8 +27,9 @@ int writeOutput(const std::string& text) {
 }
 
 void complain(std::string message, const std::string& detail) {
-    for (char& c : message)
-        if (isControl(c)) c = '?';
+    for (std::size_t at = 0; at < message.size(); ++at)
+        if (isControl(message[at]) || (at > 0 && isSecondOfControl(message[at - 1], message[at])))
+            message[at] = '?';
     message = "corvane: " + message + "\n";
     std::fwrite(message.data(), 1, message.size(), stderr);
     std::fwrite(detail.data(), 1, detail.size(), stderr);

@@ -27,12 +27,14 @@ void Painter::paint(CVNRange stretch, const Values& values) {
     if (wasInFold && !isInFold_) endFold(stretch.location);
     if (isInFold_ || look.form == Form::Hidden) return;
     noteDirection(values);
+    if (!values[CVNColorAttributeName.id()]) swatch_.reset();
     paintShown(lookInCallout(look, values), stretch);
 }
 
 void Painter::noteDirection(const Values& values) {
     const CVNValue* direction = values[CVNDirectionAttributeName.id()];
-    if (direction && direction->integerValue() == CVNDirectionRtlValue) isRightToLeft_ = true;
+    isStretchRightToLeft_ = direction && direction->integerValue() == CVNDirectionRtlValue;
+    if (isStretchRightToLeft_) isLineRightToLeft_ = true;
 }
 
 /// Only the head of a callout tells its colour, which the bars below it share.
@@ -40,10 +42,12 @@ Look Painter::lookInCallout(Look look, const Values& values) {
     if (look.form != Form::Bar) return look;
     const CVNValue* item = values[CVNBlockquoteItemAttributeName.id()];
     const CVNListInfo* info = item ? item->listInfoValue() : nullptr;
+    if (!info || !info->isCallout()) return look;
+    int& color = calloutColors_[info->listLevel];
     if (values[CVNCalloutAttributeName.id()])
-        calloutColor_ = look.pen.foreground;
-    else if (info && info->isCallout())
-        look.pen.foreground = calloutColor_;
+        color = look.pen.foreground;
+    else
+        look.pen.foreground = color;
     return look;
 }
 
@@ -61,9 +65,10 @@ void Painter::paintText(const Look& look, CVNRange stretch) {
 void Painter::paintCharacter(const Look& look, std::int64_t offset) {
     const char16_t c = text_[static_cast<std::size_t>(offset)];
     if (const std::u16string_view lineEnding = lineEndingBefore(offset + 1); !lineEnding.empty())
-        endLine(lineEnding);
-    else if (c != u'\r')
-        canvas_.put(look.pen, canvas_.isColored() ? drawn(c, look.form) : c);
+        return endLine(lineEnding);
+    if (c == u'\r') return;
+    canvas_.put(look.pen, canvas_.isColored() ? drawn(c, look.form) : c);
+    if (isStretchRightToLeft_) isLineRightToLeft_ = true;
 }
 
 /// A list marker, with a box for the brackets of a task.
@@ -99,10 +104,10 @@ void Painter::endFold(std::int64_t offset) {
 }
 
 void Painter::endLine(std::u16string_view lineEnding) {
-    const bool isMarked = isRightToLeft_ && canvas_.isColored() && !canvas_.isAtLineStart();
+    const bool isMarked = isLineRightToLeft_ && canvas_.isColored() && !canvas_.isAtLineStart();
     if (isMarked) canvas_.put({.attributes = Dim}, rightToLeftMark);
     canvas_.endLine(lineEnding);
-    isRightToLeft_ = false;
+    isLineRightToLeft_ = false;
 }
 
 /// How to end the line whose ending in the text ends here; empty when none does. A lone CR becomes an LF: a
@@ -114,7 +119,7 @@ std::u16string_view Painter::lineEndingBefore(std::int64_t offset) const {
 
 std::string Painter::result() {
     if (isInFold_) endFold(static_cast<std::int64_t>(text_.size()));
-    if (!canvas_.isAtLineStart()) endLine({});
+    if (!canvas_.isAtLineStart()) endLine(canvas_.isColored() ? u"\n" : u"");
     return canvas_.text();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,10 +19,11 @@ namespace Cli {
 class Painter {
     std::u16string_view text_;
     Canvas canvas_;
-    std::optional<Swatch> swatch_;     ///< of the last colour literal
-    int calloutColor_ = TerminalColor; ///< of the last head of a callout
+    std::optional<Swatch> swatch_;              ///< of the last colour literal
+    std::map<std::int64_t, int> calloutColors_; ///< of the last head of a callout, by the level of its quote
     bool isInFold_ = false;
-    bool isRightToLeft_ = false; ///< whether the line holds such text
+    bool isStretchRightToLeft_ = false;
+    bool isLineRightToLeft_ = false; ///< whether the line holds such text
 
 public:
     /// The text must outlive the painter.

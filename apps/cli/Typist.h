@@ -23,6 +23,7 @@ class Typist {
     Painted painted_;
     bool check_;
     std::vector<std::int64_t> replacing_;  ///< nanoseconds, one a keystroke
+    std::vector<std::int64_t> extending_;  ///< the same
     std::vector<std::int64_t> annotating_; ///< the same
     std::int64_t restyledLength_ = 0;
 

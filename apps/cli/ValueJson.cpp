@@ -58,10 +58,26 @@ Json jsonOf(const CVNValue& value) {
     return nullptr;
 }
 
+/// U+007F to U+009F, which a terminal would obey, as escapes.
+std::string withoutControls(const std::string& json) {
+    std::string safe;
+    for (std::size_t at = 0; at < json.size(); ++at) {
+        const auto byte = [&](std::size_t i) { return i < json.size() ? json[i] & 0xFF : 0; };
+        const bool isPair = byte(at) == 0xC2 && byte(at + 1) < 0xA0;
+        if (!isPair && byte(at) != 0x7F) {
+            safe += json[at];
+            continue;
+        }
+        const int unit = isPair ? byte(++at) : 0x7F;
+        safe += {'\\', 'u', '0', '0', "0123456789abcdef"[unit >> 4], "0123456789abcdef"[unit & 0xF]};
+    }
+    return safe;
+}
+
 } // namespace
 
 std::string jsonText(const CVNValue& value) {
-    return jsonOf(value).dump();
+    return withoutControls(jsonOf(value).dump());
 }
 
 } // namespace Cli

@@ -13,6 +13,7 @@
 #include "corvane/block/List.h"
 #include "corvane/block/MathBlock.h"
 #include "corvane/block/Table.h"
+#include "corvane/client/AlignmentNumber.h"
 #include "corvane/client/CVNAST.h"
 #include "corvane/client/CVNMetadata.h"
 #include "corvane/inline/Autolink.h"
@@ -185,11 +186,8 @@ MaybeValue isFoldableItem(const Annotator& at) {
 
 using Alignment = Block::TableNode::ColumnAlignment;
 
-/// By Alignment.
-constexpr std::int64_t alignmentNumbers[] = {4, 0, 2, 1};
-
-MaybeValue alignmentNumber(Alignment alignment) {
-    return CVNValue::integer(alignmentNumbers[static_cast<std::size_t>(alignment)]);
+MaybeValue alignmentValue(Alignment alignment) {
+    return CVNValue::integer(alignmentNumber(alignment));
 }
 
 MaybeValue tableSize(const Annotator& at) {
@@ -201,16 +199,16 @@ MaybeValue tableSize(const Annotator& at) {
 }
 
 MaybeValue cellAlignment(const Annotator& at) {
-    return alignmentNumber(as<Block::TableCellNode>(at).alignment);
+    return alignmentValue(as<Block::TableCellNode>(at).alignment);
 }
 
 MaybeValue delimiterAlignment(const Annotator& at) {
     const std::u16string_view text = at.text();
     const bool isLeft = !text.empty() && text.front() == u':';
     const bool isRight = !text.empty() && text.back() == u':';
-    if (isLeft && isRight) return alignmentNumber(Alignment::Center);
-    if (isLeft) return alignmentNumber(Alignment::Left);
-    return alignmentNumber(isRight ? Alignment::Right : Alignment::Default);
+    if (isLeft && isRight) return alignmentValue(Alignment::Center);
+    if (isLeft) return alignmentValue(Alignment::Left);
+    return alignmentValue(isRight ? Alignment::Right : Alignment::Default);
 }
 
 std::int64_t spaceLength(const Node* node) {

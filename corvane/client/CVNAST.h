@@ -41,10 +41,12 @@ public:
 
     /// Is told each range that was parsed or annotated, as a line of text; null, as it starts, costs nothing.
     static void (*log)(std::u16string_view text);
+    /// Tells `log` of a range, as "what {location, length}".
     static void logRange(std::u16string_view what, CVNRange range);
 
     /// An empty note with the current `ruleSet`.
     CVNAST();
+    /// A note with that text.
     static CVNAST fromMarkdown(std::u16string_view markdown);
     CVNAST(CVNAST&& other) noexcept;
     CVNAST& operator=(CVNAST&& other) noexcept;
@@ -55,8 +57,9 @@ public:
     /// The whole text. The view is good until the next edit, but the first call behind an edit moves the text
     /// behind that edit: on the road of a keystroke take markdownIn().
     std::u16string_view markdown() const { return ast->markdown(); }
-    /// A part of the text, which must lie in it.
+    /// A part of the text. The range must lie in it: nothing checks that.
     std::u16string_view markdownIn(CVNRange range) const { return ast->markdownIn(range.coreRange()); }
+    /// The text of a node of this note.
     std::u16string_view markdownForNode(const CVNASTNode& node) const;
     std::int64_t markdownLength() const { return ast->length(); }
     CVNASTNode rootNode() const;

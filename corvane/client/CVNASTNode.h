@@ -67,7 +67,7 @@ public:
         return nodeForASTNode(node->previousInSequence());
     }
 
-    /// CVNDirectionLtrValue or CVNDirectionRtlValue for a block that has a direction of its own, else
+    /// CVNDirectionLtrValue or CVNDirectionRtlValue for a node that has a direction of its own, else
     /// CVNDirectionNaturalValue, also where the direction comes from the text before it.
     std::int64_t direction() const;
     /// Class, type and range: "CVNASTATXHeadingNode atx_heading {0, 3}".

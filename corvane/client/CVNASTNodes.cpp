@@ -7,6 +7,7 @@
 #include "corvane/block/List.h"
 #include "corvane/block/SetextHeading.h"
 #include "corvane/block/Table.h"
+#include "corvane/client/AlignmentNumber.h"
 #include "corvane/client/CVNMetadata.h"
 #include "corvane/inline/Entity.h"
 #include "corvane/inline/LinkBase.h"
@@ -36,9 +37,6 @@ std::int64_t countListsFromGrandparent(const Ondo::Node* node) {
         ++count;
     return count;
 }
-
-/// By Ondo::Block::TableNode::ColumnAlignment.
-constexpr std::int64_t alignmentNumbers[] = {4, 0, 2, 1};
 
 } // namespace
 
@@ -102,7 +100,7 @@ std::int64_t CVNASTListItemNode::nestingLevel() const {
 }
 
 std::int64_t CVNASTTableCellNode::alignment() const {
-    return alignmentNumbers[static_cast<std::size_t>(nodeAs<Ondo::Block::TableCellNode>(*this).alignment)];
+    return alignmentNumber(nodeAs<Ondo::Block::TableCellNode>(*this).alignment);
 }
 
 std::u16string CVNASTEntityNode::toString() const {

@@ -9,7 +9,8 @@
 /// How ranges are widened and trimmed for styling.
 class CORVANE_EXPORT CVNASTStyling {
 public:
-    /// Widens a range so that every node that styling could touch lies wholly within it.
+    /// Widens a range so that every node that styling could touch lies wholly within it. An empty range at 0
+    /// stays as it is. Asserts that the location lies in the text.
     CVNRange extendReparsedRange(CVNRange range) const;
     /// Moves the start of a range behind the container markers and spaces at the head of a block; with
     /// `keepLastSpace` a space that stands last stays inside.

@@ -34,7 +34,8 @@ const CVNValue* CVNAttributedString::attributeAtIndexLongestEffectiveRange(CVNAt
         const std::int64_t behind = found < all.size() ? all[found].location : length();
         const CVNRange run = isInside ? CVNRange::between(all[found].location, all[found].end)
                                       : CVNRange::between(before, behind);
-        *longestEffectiveRange = CVNRange::intersect(run, inRange);
+        const bool isInRange = index >= inRange.location && index < inRange.end();
+        *longestEffectiveRange = isInRange ? CVNRange::intersect(run, inRange) : CVNRange{index, 0};
     }
     return isInside ? &all[found].value : nullptr;
 }

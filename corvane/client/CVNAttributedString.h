@@ -47,7 +47,7 @@ public:
     /// becomes {CVNNotFound, 0}.
     const CVNValue* attribute(CVNAttributeName name, std::int64_t index,
                               CVNRange* effectiveRange = nullptr) const;
-    /// The same, with the effective range clipped to `inRange`, in which the index must lie.
+    /// The same, with the effective range clipped to `inRange`; empty for an index outside it.
     const CVNValue* attributeAtIndexLongestEffectiveRange(CVNAttributeName name, std::int64_t index,
                                                           CVNRange* longestEffectiveRange,
                                                           CVNRange inRange) const;

@@ -7,7 +7,8 @@
 #include "corvane/client/CVNArchive.h"
 #include "corvane/scan/Export.h"
 
-/// The value of an attribute run whose construct nests: how deep it lies, and which one it is there.
+/// A value for runs of a host's own whose constructs nest: how deep one lies, and which one it is there. The
+/// runs of CVNAttributedString have none of this kind.
 class CORVANE_EXPORT CVNNestableValue {
 public:
     std::uint64_t level = 0;

@@ -18,8 +18,8 @@ using CVNArray = std::vector<CVNValue>;
 /// The value of an attribute run: a number, a string, a dictionary or list information. Arrays, fractions and
 /// null stand only inside dictionaries that came from JSON.
 ///
-/// Immutable, and cheap to copy. Values of different kinds are unequal, `true` and 1 too; all others compare
-/// by content.
+/// Immutable, but for the hash that list information keeps, and cheap to copy. Values of different kinds are
+/// unequal, `true` and 1 too; all others compare by content.
 class CORVANE_EXPORT CVNValue {
 public:
     enum class Kind : std::uint8_t { Null, Integer, Boolean, Double, String, Array, Dictionary, ListInfo };

@@ -19,6 +19,14 @@ bool needsEscapeInLabel(char16_t c) {
     return std::u16string_view(u"#()[]").find(c) != std::u16string_view::npos;
 }
 
+/// Each line ending as one space.
+std::u16string onOneLine(std::u16string_view text) {
+    std::u16string line = Util::replaceAll(text, u"\r\n", u" ");
+    std::replace_if(
+        line.begin(), line.end(), [](char16_t c) { return c == u'\n' || c == u'\r'; }, u' ');
+    return line;
+}
+
 } // namespace
 
 std::u16string_view StringBuilder::trimWhitespaceAndNewlines(std::u16string_view text) {
@@ -28,7 +36,7 @@ std::u16string_view StringBuilder::trimWhitespaceAndNewlines(std::u16string_view
 std::u16string StringBuilder::safeLabelString(std::u16string_view label) {
     std::u16string safe;
     bool isEscaped = false; // an odd run of backslashes stands directly before
-    for (const char16_t c : Util::replaceAll(trimWhitespaceAndNewlines(label), u"\n", u" ")) {
+    for (const char16_t c : onOneLine(trimWhitespaceAndNewlines(label))) {
         if (!isEscaped && needsEscapeInLabel(c)) safe += u'\\';
         safe += c;
         isEscaped = !isEscaped && c == u'\\';

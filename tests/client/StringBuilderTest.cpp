@@ -59,6 +59,7 @@ TEST(StringBuilder, SafeLabels) {
                                        {u"\\#", u"\\#"},
                                        {u"#()[]", u"\\#\\(\\)\\[\\]"},
                                        {u"\u00A0 a\nb\n\n(c \n", u"a b  \\(c"},
+                                       {u"a\r\nb\rc", u"a b c"},
                                        {u"\\ ]", u"\\ \\]"}});
 }
 
