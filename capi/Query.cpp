@@ -139,19 +139,18 @@ corvane_construct constructOf(CVNRange range) {
     return {toC(range), notFound, notFound, notFound, notFound, notFound, nullptr};
 }
 
-/// The markers stand at the ends of the construct.
+/// What stands behind a closing fence belongs to the construct, but to none of its parts.
 void enumerate(const Query::WrappedQuery& query, const Enumeration& to) {
-    query(to.text, to.range, to.options,
-          [&to](CVNRange text, CVNRange opening, CVNRange closing, bool& stop) {
-              CVNRange whole = text;
-              if (opening.isFound()) whole = CVNRange::unite(whole, opening);
-              if (closing.isFound()) whole = CVNRange::unite(whole, closing);
-              corvane_construct construct = constructOf(whole);
-              construct.text = toC(text);
-              construct.opening = toC(opening);
-              construct.closing = toC(closing);
-              to.tell(construct, stop);
-          });
+    Query::forEachConstruct(to.text, Query::constructKeys(query.key, query.markerKey), to.range, to.options,
+                            [&](CVNRange whole, const CVNValue&, bool& stop) {
+                                const Query::Wrapping parts =
+                                    Query::wrappingOf(to.text, query.markerKey, whole);
+                                corvane_construct construct = constructOf(whole);
+                                construct.text = toC(parts.text);
+                                construct.opening = toC(parts.opening);
+                                construct.closing = toC(parts.closing);
+                                to.tell(construct, stop);
+                            });
 }
 
 void enumerate(const Query::LinkQuery& query, const Enumeration& to) {

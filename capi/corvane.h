@@ -74,7 +74,7 @@ CORVANE_API const char* corvane_status_text(corvane_status status);
 CORVANE_API const char* corvane_version(void);
 
 /// The location of what was not found.
-#define CORVANE_NOT_FOUND INT64_MAX
+#define CORVANE_NOT_FOUND INT64_MAX // compare it as a 64-bit integer, which a JavaScript number is not
 
 /// A stretch of text. What was not found is {CORVANE_NOT_FOUND, 0}.
 typedef struct corvane_range {
@@ -118,7 +118,7 @@ CORVANE_API corvane_status corvane_note_create_with_rules(corvane_rule_set rules
 CORVANE_API void corvane_note_destroy(corvane_note* note);
 
 /// While it is on, annotation leaves out what belongs to blocks. Turning it on also disables math, for good,
-/// and answers CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY if the note is not new and empty.
+/// and answers CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY if the note has text or a batch.
 CORVANE_API corvane_status corvane_note_parse_inlines_only(corvane_note* note, int32_t inlines_only);
 /// Takes dollar signs for text, for good. CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY as above.
 CORVANE_API corvane_status corvane_note_disable_math(corvane_note* note);
@@ -172,7 +172,7 @@ CORVANE_API corvane_status corvane_note_batch_discard(corvane_note* note);
 typedef int32_t corvane_key;
 enum {
     CORVANE_KEY_DIRECTION = 0,      ///< 0 as around it, 1 left to right, 2 right to left
-    CORVANE_KEY_INDENT_SPACE = 1,   ///< how many levels of indentation
+    CORVANE_KEY_INDENT_SPACE = 1,   ///< its width in columns
     CORVANE_KEY_HEADING = 2,        ///< its level
     CORVANE_KEY_HEADING_MARKER = 3, ///< 1 before the text, 2 below it
     CORVANE_KEY_FOLDABLE = 4,
@@ -398,7 +398,9 @@ CORVANE_API corvane_status corvane_query_contains(const corvane_annotation* anno
 ///     hasClosingHighlightMarkerAtIndex, isListOrBlockquoteParagraphEmptyAtIndex
 CORVANE_API corvane_status corvane_query_index_test(const corvane_annotation* annotation, const char* name,
                                                     int64_t index, int32_t* holds);
-/// A number that belongs to the character at an index:
+/// A number that belongs to the character at an index: the level of the heading, 0 outside one; the
+/// direction, which is 0 left to right, 1 right to left and -1 neither, not as with CORVANE_KEY_DIRECTION;
+/// how many callouts stand around it.
 ///     headerLevelAtIndex, writingDirectionAtIndex, calloutNestLevelAtIndex
 CORVANE_API corvane_status corvane_query_number(const corvane_annotation* annotation, const char* name,
                                                 int64_t index, int64_t* number);
@@ -431,7 +433,7 @@ CORVANE_API corvane_status corvane_query_item_info(const corvane_annotation* ann
                                                    int64_t index, corvane_list_info* info,
                                                    corvane_range* item, corvane_range* marker);
 /// The code at an index as its author meant it, without fences, markers and the indentation of its block;
-/// null if there is none.
+/// null if there is none. Tabs stay, which HTML has as spaces.
 CORVANE_API corvane_status corvane_query_code(const corvane_annotation* annotation, int64_t index,
                                               corvane_string** code);
 
@@ -491,7 +493,8 @@ CORVANE_API corvane_status corvane_note_footnote_reference_range(const corvane_n
 CORVANE_API corvane_status corvane_note_is_foldable(const corvane_note* note, int64_t index,
                                                     int32_t* is_foldable);
 
-// Snippets: Markdown from values. They need no note.
+// Snippets: Markdown from values. They need no note. Only the label and the URL of a link or image are
+// escaped: titles, codes, footnote labels and texts go in as they stand.
 
 /// A label with what would end it escaped, on one line.
 CORVANE_API corvane_status corvane_snippet_safe_label(const corvane_unit* label, int64_t length,
@@ -526,7 +529,8 @@ CORVANE_API corvane_status corvane_snippet_reference_definition(const corvane_un
 CORVANE_API corvane_status corvane_snippet_code_block(const corvane_unit* code, int64_t length,
                                                       corvane_string** snippet);
 /// An empty table of a heading row, the delimiter row and `rows` - 1 others, without a line ending at the
-/// end. CORVANE_ERROR_NUMBER unless both numbers are 0 to 1000.
+/// end; for 0 rows the heading row alone, which is no table yet. CORVANE_ERROR_NUMBER unless both numbers are
+/// 0 to 1000.
 CORVANE_API corvane_status corvane_snippet_table(int64_t rows, int64_t columns, corvane_string** snippet);
 /// «- [ ] text» or, completed, «- [x] text», without a line ending.
 CORVANE_API corvane_status corvane_snippet_task(const corvane_unit* text, int64_t length, int32_t completed,

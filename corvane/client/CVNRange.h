@@ -19,8 +19,10 @@ struct CVNRange {
     static constexpr CVNRange between(std::int64_t start, std::int64_t end) { return {start, end - start}; }
     static constexpr CVNRange of(const Ondo::Range& range) { return {range.offset, range.length}; }
 
-    /// No farther than CVNNotFound, which stands for "to the end of everything".
+    /// No farther than CVNNotFound, which stands for "to the end of everything". A negative length counts as
+    /// 0.
     constexpr std::int64_t end() const {
+        if (length <= 0) return location;
         return length > CVNNotFound - std::max<std::int64_t>(location, 0) ? CVNNotFound : location + length;
     }
     constexpr bool isFound() const { return location != CVNNotFound; }

@@ -1,11 +1,16 @@
 #include "corvane/client/QueryBlockquotes.h"
 
+#include "corvane/client/QueryHas.h"
 #include "corvane/client/QueryItems.h"
 #include "corvane/client/QueryUtilities.h"
 
 namespace CVN::Query {
 
 namespace {
+
+/// In these a blank line is content.
+constexpr KeyList verbatimKeys = {CVNFencedCodeAttributeName, CVNIndentedCodeAttributeName,
+                                  CVNMathBlockAttributeName, CVNHTMLBlockAttributeName};
 
 bool isLineBreak(char16_t c) {
     return c == u'\n' || c == u'\r';
@@ -22,7 +27,7 @@ const CVNListInfo* Answer::innermostItemInfo(const CVNAttributedString& text, co
 }
 
 bool Answer::isParagraphEmpty(const CVNAttributedString& text, const KeyList&, std::int64_t index) {
-    if (!listOrBlockquoteItemInfoAtIndex(text, index)) return false;
+    if (!listOrBlockquoteItemInfoAtIndex(text, index) || hasAny(text, verbatimKeys, index)) return false;
     const auto isMarkerOrBlank = [&](std::int64_t at) {
         return isBlankOrQuoteMarker(text, at) || text.attribute(CVNListMarkerAttributeName, at);
     };

@@ -42,7 +42,7 @@ inline constexpr RangeOfRangeQuery extendRangeToFullyContainBlockquote{
     "extendRangeToFullyContainBlockquote", {CVNBlockquoteAttributeName}, Answer::extendToRuns};
 
 /// Whether the line around the index is one of an item or a quote, and there is nothing on it but their
-/// markers, boxes of tasks included.
+/// markers, boxes of tasks included. A blank line of code, math or HTML is not.
 inline constexpr IndexTest isListOrBlockquoteParagraphEmptyAtIndex{
     "isListOrBlockquoteParagraphEmptyAtIndex", {}, Answer::isParagraphEmpty};
 /// How many of the quotes around the index are callouts.

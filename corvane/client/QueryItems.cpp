@@ -54,6 +54,7 @@ bool ItemRuns::hasSubitems(std::int64_t run) const {
 
 std::int64_t ItemRuns::parent(std::int64_t run) const {
     const std::int64_t own = level(run);
+    if (own == 0) return noRun;
     for (; touchesPrevious(run); --run)
         if (level(run - 1) < own) return run - 1;
     return noRun;

@@ -9,6 +9,7 @@
 
 #include "corvane/client/CVNAttributedString.h"
 #include "corvane/client/CVNListInfo.h"
+#include "corvane/scan/Assert.h"
 #include "corvane/scan/Export.h"
 
 /// The types of queries, told apart by what they take and answer. A query is a constant: its name, the keys
@@ -27,6 +28,7 @@ public:
     constexpr KeyList(std::initializer_list<CVNAttributeName> keys)
         : KeyList(std::span<const CVNAttributeName>(keys.begin(), keys.size())) {}
     constexpr explicit KeyList(std::span<const CVNAttributeName> keys) {
+        CORVANE_ASSERT(keys.size() <= ids_.size(), "CVNQuery");
         for (const CVNAttributeName key : keys)
             ids_[size_++] = key.id();
     }

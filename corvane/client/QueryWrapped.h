@@ -10,7 +10,8 @@
 /// The block gets (CVNRange text, CVNRange opening, CVNRange closing, bool& stop) for each: what stands
 /// between the markers, and the markers, {CVNNotFound, 0} for one that is absent. The text of a fenced block
 /// begins behind the fence, with the info string. Of a construct that reaches out of the range the part
-/// inside counts. A construct nested in itself gives one call, of its outer markers.
+/// inside counts. A construct nested in itself gives one call, of the outermost markers
+/// that the range holds.
 
 namespace CVN::Query {
 

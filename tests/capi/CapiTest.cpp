@@ -378,6 +378,13 @@ TEST(Capi, EnumeratesConstructsWithTheirParts) {
               "* i\n* j\n|-|-|-|-|-| * i\n|-|* |-|-|-|item 0 * j\n|-|* |-|-|-|item 1 ");
     EXPECT_EQ(written("enumerateUnorderedListInRange", 0, 1), "* i\n* j\n|-|-|-|-|-| ");
     EXPECT_EQ(written("enumerateImageInRange", 0, 9), "");
+
+    const std::u16string_view code = u"```\na\n```  ";
+    std::tuple<std::u16string_view, std::string, int> user(code, "", 9);
+    EXPECT_EQ(corvane_query_enumerate(annotate(noteOf(code), 0, std::ssize(code)).get(),
+                                      "enumerateFencedCodeInRange", 0, std::ssize(code), 0, write, &user),
+              CORVANE_OK);
+    EXPECT_EQ(std::get<std::string>(user), "```\na\n```  |\na\n|```|```|-|-| ");
 }
 
 TEST(Capi, AsksAboutItemsAndCode) {

@@ -71,6 +71,7 @@ TEST(QueryValues, TestsOfACharacter) {
     EXPECT_EQ(trueAt(u"- a\n  > ‸\n"), "isListOrBlockquoteParagraphEmptyAtIndex");
     EXPECT_EQ(trueAt(u"- [ ] ‸\r\n- a"), "isListOrBlockquoteParagraphEmptyAtIndex");
     EXPECT_EQ(trueAt(u"- ‸a\r\n-"), "");
+    EXPECT_EQ(trueAt(u"- ```\n  x\n‸\n  y\n  ```\n"), "") << "a blank line of code is content";
     EXPECT_EQ(trueAt(u"[^a]: b ‸[^a]"), "hasMarkerAtIndex hasOpeningMarkerAtIndex");
     EXPECT_EQ(trueAt(u"[^a]: b‸b [^a]"), "hasFootnoteDefinitionAtIndex");
     EXPECT_EQ(trueAt(u"---\n‸a: b\n---\n"), "hasYamlAtIndex");
