@@ -310,7 +310,7 @@ enum {
 /// Values of corvane_list_info::task_type.
 enum {
     CORVANE_TASK_NONE = 0,
-    CORVANE_TASK_TODO = 1,
+    CORVANE_TASK_OPEN = 1,
     CORVANE_TASK_DONE = 2,
 };
 
