@@ -111,7 +111,9 @@ CVNRange CVNASTStyling::extendReparsedRange(CVNRange range) const {
     widening.takeMathBlockBefore();
     widening.takeBlankLineBehind();
     if (widening.range() != range) widening.takeWholeBlocks();
+    const CVNRange withoutFolds = widening.range();
     widening.takeFoldsAround();
+    if (widening.range() != withoutFolds) widening.takeWholeBlocks();
     return widening.range();
 }
 
