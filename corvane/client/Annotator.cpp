@@ -96,7 +96,7 @@ void Annotator::enter(const Node* node, std::int64_t offset) {
         if (around.offset == offset) entered.head = around.head;
     }
     entered.head.walk(node);
-    containers_.push_back(std::move(entered));
+    containers_.push_back(entered);
 }
 
 void Annotator::leaveContainers() {

@@ -31,7 +31,7 @@ double CVNValue::doubleValue() const {
 }
 
 std::u16string_view CVNValue::stringValue() const {
-    const std::u16string* string = shared<std::u16string>();
+    const auto* string = shared<std::u16string>();
     return string ? std::u16string_view(*string) : std::u16string_view();
 }
 
