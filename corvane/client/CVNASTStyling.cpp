@@ -33,6 +33,8 @@ bool isShownMathBlock(const Node* node) {
 class Widening {
     const Ondo::Tree& tree_;
     CVNRange range_;
+    std::int64_t askedLocation_ = 0; ///< what `before_` was found for
+    Node* before_ = nullptr;
 
 public:
     Widening(const Ondo::Tree& tree, CVNRange range) : tree_(tree), range_(range) {}
@@ -47,15 +49,25 @@ public:
 
 private:
     void takeBlockBefore(bool (*isWanted)(const Node*)) {
-        if (range_.location == 0) return;
-        const Node* node = tree_.nodeAtOffset(range_.location - 1, LevelSetting::Highest);
+        const Node* node = nodeBefore();
         if (node && isWanted(node->parent)) unite(node->parent);
     }
+    Node* nodeBefore();
     void takeBlockAt(std::int64_t offset);
-    const Node* headOfFoldAt(std::int64_t offset) const;
+    static const Node* headOfFoldOver(Node* node);
     void unite(const Node* node) { range_ = CVNRange::unite(range_, rangeOf(node)); }
     std::int64_t lineBreakLengthAt(std::int64_t offset) const;
 };
+
+/// The highest node at the character before the range. The way into a long block costs its length, so it is
+/// kept.
+Node* Widening::nodeBefore() {
+    if (range_.location != askedLocation_)
+        before_ =
+            range_.location > 0 ? tree_.nodeAtOffset(range_.location - 1, LevelSetting::Highest) : nullptr;
+    askedLocation_ = range_.location;
+    return before_;
+}
 
 /// A lone line ending behind the range is a blank line or ends the line that the range lies in.
 void Widening::takeBlankLineBehind() {
@@ -91,15 +103,16 @@ void Widening::takeBlockAt(std::int64_t offset) {
 /// The run of a fold hangs on its head, and its end on the first block that is not hidden: when the range
 /// begins in what a fold hides or directly behind it, all from the head on belongs to it.
 void Widening::takeFoldsAround() {
-    const Node* head = headOfFoldAt(range_.location);
-    if (!head && range_.location > 0) head = headOfFoldAt(range_.location - 1);
+    const bool isInText = range_.location < tree_.length();
+    const Node* head =
+        headOfFoldOver(isInText ? tree_.nodeAtOffset(range_.location, LevelSetting::Leaf) : nullptr);
+    if (!head) head = headOfFoldOver(nodeBefore());
     if (head) unite(head);
 }
 
-const Node* Widening::headOfFoldAt(std::int64_t offset) const {
-    if (offset >= tree_.length()) return nullptr;
-    Node* block = tree_.nodeAtOffset(offset, LevelSetting::Leaf)->firstLevelAncestor();
-    return block->folded ? FoldMarkerNode::topmostFoldedContentHead(block) : nullptr;
+const Node* Widening::headOfFoldOver(Node* node) {
+    Node* block = node ? node->firstLevelAncestor() : nullptr;
+    return block && block->folded ? FoldMarkerNode::topmostFoldedContentHead(block) : nullptr;
 }
 
 } // namespace

@@ -7,48 +7,17 @@
 #include <string>
 
 #include "corvane/scan/Util.h"
+#include "tests/support/Painted.h"
 
 namespace {
 
 using namespace std::string_literals;
 using Ondo::Util::utf8;
 
-std::string show(const CVNDictionary& dictionary);
-
-/// A value as JSON; fractions as in std::to_string().
-std::string show(const CVNValue& value) {
-    std::string elements;
-    switch (value.kind()) {
-    case CVNValue::Kind::Integer:
-        return std::to_string(value.integerValue());
-    case CVNValue::Kind::Boolean:
-        return value.booleanValue() ? "true" : "false";
-    case CVNValue::Kind::Double:
-        return std::to_string(value.doubleValue());
-    case CVNValue::Kind::String:
-        return '"' + utf8(Ondo::Util::escape(value.stringValue())) + '"';
-    case CVNValue::Kind::Dictionary:
-        return show(*value.dictionaryValue());
-    case CVNValue::Kind::Array:
-        for (const CVNValue& element : *value.arrayValue())
-            elements += (elements.empty() ? "" : " ") + show(element);
-        return '[' + elements + ']';
-    default:
-        return "null";
-    }
-}
-
-std::string show(const CVNDictionary& dictionary) {
-    std::string members;
-    for (const auto& [key, value] : dictionary)
-        members += (members.empty() ? "" : " ") + utf8(key) + ':' + show(value);
-    return '{' + members + '}';
-}
-
 /// "none" when there is no object.
 std::string metadata(std::u16string_view comment) {
     const std::optional<CVNDictionary> result = CVNMetadataFromComment(comment);
-    return result ? show(*result) : "none";
+    return result ? Ondo::Test::show(CVNValue::dictionary(*result)) : "none";
 }
 
 std::u16string comment(std::u16string_view json) {

@@ -26,14 +26,14 @@ std::string show(const CVNListInfo& info) {
 std::string show(const CVNDictionary& dictionary) {
     std::string out;
     for (const auto& [key, value] : dictionary)
-        out += (out.empty() ? "" : ", ") + Util::utf8(key) + ": " + Test::show(value);
+        out += (out.empty() ? "" : " ") + Util::utf8(key) + ':' + Test::show(value);
     return '{' + out + '}';
 }
 
 std::string show(const CVNArray& array) {
     std::string out;
     for (const CVNValue& value : array)
-        out += (out.empty() ? "" : ", ") + Test::show(value);
+        out += (out.empty() ? "" : " ") + Test::show(value);
     return '[' + out + ']';
 }
 
