@@ -85,6 +85,7 @@ set(CORVANE_PUBLIC_HEADERS
     client/CVNASTAnnotation.h
     client/CVNASTNode.h
     client/CVNASTNodes.h
+    client/CVNASTOperationResult.h
     client/CVNASTQuery.h
     client/CVNASTStyling.h
     client/CVNASTTextOperations.h
@@ -98,6 +99,7 @@ set(CORVANE_PUBLIC_HEADERS
     client/CVNNestableValue.h
     client/CVNQuery.h
     client/CVNRange.h
+    client/CVNTextOperation.h
     client/CVNValue.h
     client/FilenameMatch.h
     client/OndoString.h
@@ -116,4 +118,20 @@ set(CORVANE_PUBLIC_HEADERS
     client/QueryUtilities.h
     client/QueryValues.h
     client/QueryWrapped.h
-    client/StringBuilder.h)
+    client/StringBuilder.h
+    operation/Operation.h
+    operation/OperationDeleteNext.h
+    operation/OperationDeletePrevious.h
+    operation/OperationExitInlines.h
+    operation/OperationIndent.h
+    operation/OperationInsertNewline.h
+    operation/OperationNormalizeIndentation.h
+    operation/OperationResult.h
+    operation/OperationToggleBlockStyle.h
+    operation/OperationToggleInlineStyle.h
+    correction/CalloutCorrection.h
+    correction/Correction.h
+    correction/FencedCodeCorrection.h
+    correction/ListItemSpaceCorrection.h
+    correction/MathBlockCorrection.h
+    correction/TableSpaceCorrection.h)

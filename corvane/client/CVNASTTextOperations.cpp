@@ -1,10 +1,125 @@
 #include "corvane/client/CVNASTTextOperations.h"
 
+#include <cstddef>
+#include <utility>
+
+#include "corvane/client/CVNAST.h"
 #include "corvane/client/FilenameMatch.h"
+#include "corvane/client/OndoString.h"
 #include "corvane/client/StringBuilder.h"
+#include "corvane/correction/Correction.h"
+#include "corvane/operation/Operation.h"
 
 using CVN::FilenameMatch;
 using CVN::StringBuilder;
+
+using Results = CVNASTTextOperations::Results;
+using Operations = CVNTextOperation::Number;
+using Corrections = CVNTextCorrection::Number;
+
+Results CVNASTTextOperations::indent(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::indent, range, selectionRange);
+}
+
+Results CVNASTTextOperations::outdent(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::outdent, range, selectionRange);
+}
+
+Results CVNASTTextOperations::toggleInlineStyle(CVNRange range, CVNRange selectionRange,
+                                                std::int64_t style) const {
+    return run(Operations::toggleInlineStyle, range, selectionRange, {CVNTextArgument{style, {}}});
+}
+
+Results CVNASTTextOperations::toggleBlockStyle(CVNRange range, CVNRange selectionRange,
+                                               std::int64_t style) const {
+    return run(Operations::toggleBlockStyle, range, selectionRange, {CVNTextArgument{style, {}}});
+}
+
+Results CVNASTTextOperations::insertNewlineInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::insertNewlineInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::normalizeIndentationInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::normalizeIndentationInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::deletePrevious(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::deletePrevious, range, selectionRange);
+}
+
+Results CVNASTTextOperations::deleteNext(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::deleteNext, range, selectionRange);
+}
+
+Results CVNASTTextOperations::fencedCodeCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                     CVNRange selectionRange) const {
+    return run(Corrections::fencedCodeCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::listItemSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                        CVNRange selectionRange) const {
+    return run(Corrections::listItemSpaceCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::calloutCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                  CVNRange selectionRange) const {
+    return run(Corrections::calloutCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::mathBlockCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                    CVNRange selectionRange) const {
+    return run(Corrections::mathBlockCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::tableSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                     CVNRange selectionRange) const {
+    return run(Corrections::tableSpaceCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::resultForTextOperation(const CVN::Operation::Operation& operation,
+                                                     CVNRange range, CVNRange selectionRange) const {
+    const Ondo::Tree& tree = *static_cast<const CVNAST&>(*this).ast;
+    return toCVNASTOperationResultArray(
+        operation.run(tree, range.location, range.length, selectionRange.location, selectionRange.length));
+}
+
+Results CVNASTTextOperations::resultForTextCorrection(const CVN::Correction::Correction& correction,
+                                                      CVNRange range, std::u16string_view replacementString,
+                                                      CVNRange selectionRange) const {
+    const Ondo::Tree& tree = *static_cast<const CVNAST&>(*this).ast;
+    return toCVNASTOperationResultArray(correction.run(tree, range.location, range.length,
+                                                       ondoString(replacementString), selectionRange.location,
+                                                       selectionRange.length));
+}
+
+Results CVNASTTextOperations::toCVNASTOperationResultArray(std::vector<CVN::Operation::Result> results) {
+    Results array;
+    array.reserve(results.size());
+    for (CVN::Operation::Result& result : results)
+        array.push_back({{result.replaceOffset, result.replaceLength},
+                         stringWithOndoString(std::move(result.replacementString)),
+                         {result.selectionOffset, result.selectionLength}});
+    return array;
+}
+
+CVNRange CVNASTTextOperations::applyTextOperationResults(const Results& results) {
+    CVNAST& note = static_cast<CVNAST&>(*this);
+    for (const CVNASTOperationResult& result : results)
+        note.batchReplaceRange(result.replacementRange, result.replacementString);
+    return results.empty() ? CVNRange::notFound() : note.batchReplaceCommit();
+}
+
+Results CVNASTTextOperations::run(CVNTextOperation::Number number, CVNRange range, CVNRange selectionRange,
+                                  const CVNTextArguments& arguments) const {
+    const auto& row = CVNTextOperation::all()[static_cast<std::size_t>(number)];
+    return row.run(static_cast<const CVNAST&>(*this), range, selectionRange, arguments);
+}
+
+Results CVNASTTextOperations::run(CVNTextCorrection::Number number, CVNRange range,
+                                  std::u16string_view replacementString, CVNRange selectionRange) const {
+    const auto& row = CVNTextCorrection::all()[static_cast<std::size_t>(number)];
+    return row.run(static_cast<const CVNAST&>(*this), range, replacementString, selectionRange);
+}
 
 std::u16string CVNASTTextOperations::percentEscapedURL(std::u16string_view url) {
     return StringBuilder::safeURLString(url);

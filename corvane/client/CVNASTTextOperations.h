@@ -5,11 +5,66 @@
 #include <string_view>
 #include <vector>
 
+#include "corvane/client/CVNRange.h"
+#include "corvane/client/CVNTextOperation.h"
 #include "corvane/scan/Export.h"
 
-/// Snippets of Markdown from values, for CVNAST. See StringBuilder and FilenameMatch.
+namespace CVN::Operation {
+class Operation;
+struct Result;
+} // namespace CVN::Operation
+
+namespace CVN::Correction {
+class Correction;
+}
+
+/// What an editor does to the text of a CVNAST: commands, corrections of edits, and snippets of Markdown.
+///
+/// Commands and corrections change nothing. They answer with the replacements that carry them out and the
+/// selection to show then, or with an empty list when they have no opinion: then the editor does what it
+/// would do to plain text. Ranges lie in the text: nothing checks that.
 class CORVANE_EXPORT CVNASTTextOperations {
 public:
+    using Results = std::vector<CVNASTOperationResult>;
+
+    // Commands. A style is a number that CVNTextOperation tells; both indent with spaces.
+
+    Results indent(CVNRange range, CVNRange selectionRange) const;
+    Results outdent(CVNRange range, CVNRange selectionRange) const;
+    Results toggleInlineStyle(CVNRange range, CVNRange selectionRange, std::int64_t style) const;
+    Results toggleBlockStyle(CVNRange range, CVNRange selectionRange, std::int64_t style) const;
+    Results insertNewlineInRange(CVNRange range, CVNRange selectionRange) const;
+    Results normalizeIndentationInRange(CVNRange range, CVNRange selectionRange) const;
+    Results deletePrevious(CVNRange range, CVNRange selectionRange) const;
+    Results deleteNext(CVNRange range, CVNRange selectionRange) const;
+
+    // Corrections, asked before the edit of `range` is made. The selection is that proposed for behind it.
+
+    Results fencedCodeCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                   CVNRange selectionRange) const;
+    Results listItemSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                      CVNRange selectionRange) const;
+    Results calloutCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                CVNRange selectionRange) const;
+    Results mathBlockCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                  CVNRange selectionRange) const;
+    Results tableSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                   CVNRange selectionRange) const;
+
+    // Objects that the host makes
+
+    Results resultForTextOperation(const CVN::Operation::Operation& operation, CVNRange range,
+                                   CVNRange selectionRange) const;
+    Results resultForTextCorrection(const CVN::Correction::Correction& correction, CVNRange range,
+                                    std::u16string_view replacementString, CVNRange selectionRange) const;
+    static Results toCVNASTOperationResultArray(std::vector<CVN::Operation::Result> results);
+    /// Makes the replacements of a list and answers with the range to restyle; {CVNNotFound, 0} for an empty
+    /// list. The editor takes the selection from the last one. Asserts that each range lies in the text that
+    /// it addresses.
+    CVNRange applyTextOperationResults(const Results& results);
+
+    // Snippets. See CVN::StringBuilder and CVN::FilenameMatch.
+
     static std::u16string percentEscapedURL(std::u16string_view url);
     static std::u16string percentDecodedURL(std::u16string_view url);
     static std::u16string safeLabelString(std::u16string_view label);
@@ -31,4 +86,10 @@ public:
 
 protected:
     CVNASTTextOperations() = default;
+
+private:
+    Results run(CVNTextOperation::Number number, CVNRange range, CVNRange selectionRange,
+                const CVNTextArguments& arguments = {}) const;
+    Results run(CVNTextCorrection::Number number, CVNRange range, std::u16string_view replacementString,
+                CVNRange selectionRange) const;
 };

@@ -63,4 +63,9 @@ Indent::spaceAsIndentation(const Node* node, std::u16string_view indentationText
     return {true, Ondo::Lines::Line::indentationAtOffsetRelativeToStart(length, 0, indentationText)};
 }
 
+std::vector<Result> Indent::run(const Ondo::Tree&, std::int64_t, std::int64_t, std::int64_t,
+                                std::int64_t) const {
+    return {};
+}
+
 } // namespace CVN::Operation

@@ -1,0 +1,10 @@
+#include "corvane/correction/CalloutCorrection.h"
+
+namespace CVN::Correction {
+
+std::vector<Operation::Result> CalloutCorrection::run(const Ondo::Tree&, std::int64_t, std::int64_t,
+                                                      std::u16string_view, std::int64_t, std::int64_t) const {
+    return {};
+}
+
+} // namespace CVN::Correction

@@ -1,0 +1,7 @@
+#include "corvane/correction/Correction.h"
+
+namespace CVN::Correction {
+
+Correction::~Correction() = default;
+
+} // namespace CVN::Correction

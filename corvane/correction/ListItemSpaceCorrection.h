@@ -1,0 +1,14 @@
+#pragma once
+
+#include "corvane/correction/Correction.h"
+
+namespace CVN::Correction {
+
+class CORVANE_EXPORT ListItemSpaceCorrection : public Correction {
+public:
+    std::vector<Operation::Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                                       std::u16string_view replacement, std::int64_t selectionOffset,
+                                       std::int64_t selectionLength) const override;
+};
+
+} // namespace CVN::Correction

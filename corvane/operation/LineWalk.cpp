@@ -1,0 +1,66 @@
+#include "corvane/operation/LineWalk.h"
+
+namespace CVN::Operation {
+
+using Ondo::LevelSetting;
+using Ondo::Node;
+
+Node::Iterator leafAt(const Ondo::Tree& tree, std::int64_t offset) {
+    return tree.iteratorAtOffset(offset, LevelSetting::Leaf);
+}
+
+Node::Iterator lineAt(const Ondo::Tree& tree, std::int64_t offset) {
+    Node::Iterator line = leafAt(tree, offset);
+    if (line.node) line.beginningOfLine();
+    return line;
+}
+
+void toPreviousLine(Node::Iterator& line) {
+    line.previousInSequence();
+    if (line.node && line->type != Ondo::ONDO_DOCUMENT_NODE) line.beginningOfLine();
+}
+
+void toFirstLeaf(Node::Iterator& at) {
+    while (at.node && at->firstChild)
+        at.firstChild();
+}
+
+bool isLineStart(const Ondo::Tree& tree, std::int64_t offset) {
+    const char16_t before = unitAt(tree, offset - 1);
+    if (offset == 0 || before == u'\n') return true;
+    return before == u'\r' && unitAt(tree, offset) != u'\n';
+}
+
+char16_t unitAt(const Ondo::Tree& tree, std::int64_t offset) {
+    if (offset < 0 || offset >= tree.length()) return 0;
+    return tree.markdownIn({offset, 1}).front();
+}
+
+std::u16string_view textOf(const Ondo::Tree& tree, const Node::Iterator& at) {
+    return tree.markdownIn({at.offset, at->charCount});
+}
+
+bool isContainerMarker(const Node* node) {
+    return isOfType(node, Ondo::ONDO_LIST_ITEM_MARKER_NODE) ||
+           isOfType(node, Ondo::ONDO_BLOCK_QUOTE_MARKER_NODE);
+}
+
+bool isBlockMarker(const Node* node) {
+    return node && node->isMarker() && node->maker && node->maker->isBlock();
+}
+
+bool isInlineMarker(const Node* node) {
+    return node && node->isMarker() && node->maker && node->maker->category == Node::Category::Inline;
+}
+
+const Node* selfOrAncestor(const Node* node, std::uint16_t type) {
+    while (node && node->type != type)
+        node = node->parent;
+    return node;
+}
+
+bool isSimplified(const Ondo::Tree& tree) {
+    return tree.ruleSet == Ondo::RuleConfig::Simplified;
+}
+
+} // namespace CVN::Operation

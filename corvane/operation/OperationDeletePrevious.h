@@ -1,0 +1,18 @@
+#pragma once
+
+#include "corvane/operation/Operation.h"
+
+namespace CVN::Operation {
+
+class CORVANE_EXPORT DeletePrevious : public Operation {
+public:
+    explicit DeletePrevious(IndentStyle style) : style_(style) {}
+
+    std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                            std::int64_t selectionOffset, std::int64_t selectionLength) const override;
+
+private:
+    IndentStyle style_;
+};
+
+} // namespace CVN::Operation
