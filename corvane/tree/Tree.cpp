@@ -55,6 +55,17 @@ Node::Iterator lastBlock(Node* root) {
     return at;
 }
 
+bool isParagraph(const Node* node) {
+    return node->type == ONDO_PARAGRAPH_NODE;
+}
+
+bool hasBracket(const TextBuffer& text, const Node::Iterator& at) {
+    std::int64_t offset = at.offset;
+    while (offset < at.end() && text[offset] != u'[')
+        ++offset;
+    return offset < at.end();
+}
+
 /// Back to the first block before the edit that is not blank: an edit can extend it.
 void toStartOfRegion(Node::Iterator& at) {
     if (!at->previousSibling) return;
@@ -68,6 +79,19 @@ void toStartOfDefinitions(Node::Iterator& at) {
     if (isDefinition(at.node)) return;
     while (at->previousSibling && isDefinition(at->previousSibling))
         at.previousSibling();
+}
+
+/// Where a definition can end a paragraph, it can have cut off a title that begins above it, so that a
+/// definition reads as a paragraph, or its title does. Without what cut it, the title may go on over all
+/// these lines.
+void toStartOfCutTitle(Node::Iterator& at, const TextBuffer& text) {
+    Node::Iterator back = at;
+    while (back->previousSibling &&
+           (isDefinition(back->previousSibling) || isParagraph(back->previousSibling))) {
+        const bool isBelow = isParagraph(back.node);
+        back.previousSibling();
+        if (isDefinition(back.node) ? isBelow : hasBracket(text, back)) at = back;
+    }
 }
 
 /// A heading can be folded only when the block behind it lets it, which the edit may change.
@@ -178,6 +202,7 @@ Tree::Region Tree::regionForReparse(const Range& range) const {
     region.endNode = range.length == 0 ? region.startNode : firstLevelAt(root.get(), range.end());
     toStartOfRegion(region.startNode);
     toStartOfDefinitions(region.startNode);
+    if (ruleSet == RuleConfig::Simplified) toStartOfCutTitle(region.startNode, markdown_);
     toHeadingBefore(region.startNode);
     toEndOfRegion(region.endNode);
     return region;

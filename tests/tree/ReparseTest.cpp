@@ -462,6 +462,23 @@ TEST(Reparse, BlocksThatGrowBeyondTheRegionAreTakenIn) {
 }
 
 /// Regions of first-level blocks are what an edit replaces today; the operation holds below them, too.
+TEST(Reparse, ATitleCutByADefinitionGoesOnWhenItCan) {
+    const struct {
+        std::u16string before;
+        Range range;
+        std::u16string piece;
+    } edits[] = {
+        {u"[B]:u \"\n[a]:u\n---\n\"", {14, 1}, u""},
+        {u"[B]:u \"\n[a]:u\n[c]:u\n[d]:u\n", {25, 0}, u"\""},
+        {u"  [B]:u '\n[a]:u\nb\n[c]:u\n---\n'\n", {24, 3}, u"-"},
+    };
+    for (const auto& edit : edits) {
+        Tree tree(edit.before, RuleConfig::Simplified);
+        replaced(tree, edit.range, edit.piece);
+        EXPECT_EQ(tree.root->firstChild->type, ONDO_LINK_REFERENCE_DEFINITION_NODE) << visible(edit.before);
+    }
+}
+
 TEST(Reparse, ReplacesNodesBelowTheFirstLevel) {
     const Tree tree(u"a\n\n> b\n>\n> c\n\nd");
     const std::int64_t unasked = tree.root->lastChild->startOffset(); // makes the index
