@@ -20,6 +20,7 @@ struct corvane_note {
     CVNAST ast;
     /// The length that the text will have after the batch; has no meaning while that is empty.
     std::int64_t pendingLength = 0;
+    bool hasMath = true;
 
     bool isPending() const { return !ast.replaceBatch->empty(); }
     std::int64_t lengthAfterBatch() const { return isPending() ? pendingLength : ast.markdownLength(); }
@@ -35,6 +36,14 @@ struct corvane_annotation {
     std::deque<corvane_list_info> lists;
 
     explicit corvane_annotation(CVNAttributedString annotated);
+};
+
+/// The replacements point into the texts of the results.
+struct corvane_results {
+    CVNASTTextOperations::Results results;
+    std::vector<corvane_replacement> replacements;
+
+    explicit corvane_results(CVNASTTextOperations::Results results_);
 };
 
 namespace CApi {

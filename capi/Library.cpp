@@ -15,6 +15,7 @@ constexpr const char* statusTexts[] = {
     "a range or an index does not lie in the text",
     "a batch is pending",
     "the note is not empty",
+    "the command takes other arguments",
 };
 
 } // namespace

@@ -47,25 +47,26 @@ void corvane_note_destroy(corvane_note* note) {
 
 namespace {
 
-corvane_status statusOfNewNote(const corvane_note& note) {
+corvane_status disableMath(corvane_note& note) {
+    if (!note.hasMath) return CORVANE_OK;
     if (note.isPending()) return CORVANE_ERROR_PENDING;
-    return note.ast.markdownLength() == 0 ? CORVANE_OK : CORVANE_ERROR_NOT_EMPTY;
+    if (note.ast.markdownLength() > 0) return CORVANE_ERROR_NOT_EMPTY;
+    note.ast.disableMath();
+    note.hasMath = false;
+    return CORVANE_OK;
 }
 
 } // namespace
 
 corvane_status corvane_note_parse_inlines_only(corvane_note* note, int32_t inlines_only) {
     if (!note) return CORVANE_ERROR_NULL;
-    const corvane_status status = inlines_only ? statusOfNewNote(*note) : CORVANE_OK;
-    if (status == CORVANE_OK) note->ast.setParseInlinesOnly(inlines_only != 0);
+    const corvane_status status = inlines_only ? disableMath(*note) : CORVANE_OK;
+    if (status == CORVANE_OK) note->ast.parseInlinesOnly = inlines_only != 0;
     return status;
 }
 
 corvane_status corvane_note_disable_math(corvane_note* note) {
-    if (!note) return CORVANE_ERROR_NULL;
-    const corvane_status status = statusOfNewNote(*note);
-    if (status == CORVANE_OK) note->ast.disableMath();
-    return status;
+    return note ? disableMath(*note) : CORVANE_ERROR_NULL;
 }
 
 // Text

@@ -65,6 +65,7 @@ enum {
     CORVANE_ERROR_RANGE = 5,  ///< a range or an index is negative or reaches outside the text
     CORVANE_ERROR_PENDING = 6,   ///< a batch waits to be committed or discarded
     CORVANE_ERROR_NOT_EMPTY = 7, ///< the option can only be set while the note is empty
+    CORVANE_ERROR_ARGUMENTS = 8, ///< the command takes others, or another number of them
 };
 
 /// The status in English, on one line, for logs. Never null; good for ever.
@@ -117,8 +118,9 @@ CORVANE_API corvane_status corvane_note_create_with_rules(corvane_rule_set rules
 /// Null is allowed.
 CORVANE_API void corvane_note_destroy(corvane_note* note);
 
-/// While it is on, annotation leaves out what belongs to blocks. Turning it on also disables math, for good,
-/// and answers CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY if the note has text or a batch.
+/// While it is on, annotation leaves out what belongs to blocks. Turning it on also disables math, for good;
+/// where that is not done yet, the answer is CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY if the note has
+/// a batch or text.
 CORVANE_API corvane_status corvane_note_parse_inlines_only(corvane_note* note, int32_t inlines_only);
 /// Takes dollar signs for text, for good. CORVANE_ERROR_PENDING or CORVANE_ERROR_NOT_EMPTY as above.
 CORVANE_API corvane_status corvane_note_disable_math(corvane_note* note);
@@ -492,6 +494,146 @@ CORVANE_API corvane_status corvane_note_footnote_reference_range(const corvane_n
 /// CORVANE_ERROR_RANGE for an index that is negative or behind the end of the text.
 CORVANE_API corvane_status corvane_note_is_foldable(const corvane_note* note, int64_t index,
                                                     int32_t* is_foldable);
+
+// Commands and corrections: what keys, menus and buttons of an editor do to a note, of which C++ has the
+// methods in corvane/client/CVNASTTextOperations.h. They change nothing, but answer with replacements and the
+// selection to show then: apply these to the note and to the view. When there are none, they have no opinion,
+// and the editor does what it would do to plain text.
+
+/// Replaces `range` by `text` and shows `selection`, which counts in the text behind it. 48 bytes on wasm32
+/// as on 64-bit machines.
+typedef struct corvane_replacement {
+    corvane_range range;      ///< empty for an insertion
+    const corvane_unit* text; ///< empty for a deletion; null never
+    int64_t text_length;
+    corvane_range selection; ///< empty for a caret
+} corvane_replacement;
+
+/// What a command or correction answered with, for the text of the note as it was then.
+typedef struct corvane_results corvane_results;
+
+/// The replacements, which are to be made in this order, each in the text that the ones before it left. The
+/// selection to show is that of the last one. `replacements` may become null when there are none.
+CORVANE_API corvane_status corvane_results_replacements(const corvane_results* results,
+                                                        const corvane_replacement** replacements,
+                                                        int64_t* count);
+/// Null is allowed.
+CORVANE_API void corvane_results_destroy(corvane_results* results);
+
+/// Makes all replacements. `restyle` becomes the range to annotate and paint anew, and `selection` the one to
+/// show, both in the text behind all of them, or {CORVANE_NOT_FOUND, 0} when there are none; each may be
+/// null. CORVANE_ERROR_RANGE, and no replacement is made, if one of the ranges or the last selection does not
+/// lie in its text, as may be with results for another text. CORVANE_ERROR_PENDING while a batch is pending.
+CORVANE_API corvane_status corvane_note_apply_results(corvane_note* note, const corvane_results* results,
+                                                      corvane_range* restyle, corvane_range* selection);
+
+/// A command. The comment tells what it takes besides range and selection.
+typedef int32_t corvane_command;
+enum {
+    CORVANE_COMMAND_INDENT = 0,
+    CORVANE_COMMAND_OUTDENT = 1,
+    CORVANE_COMMAND_TOGGLE_INLINE_STYLE = 2, ///< a corvane_inline_style
+    CORVANE_COMMAND_TOGGLE_BLOCK_STYLE = 3,  ///< a corvane_block_style
+    CORVANE_COMMAND_INSERT_NEWLINE = 4,      ///< return: leaves an inline, or goes on with the block
+    CORVANE_COMMAND_NORMALIZE_INDENTATION = 5,
+    CORVANE_COMMAND_DELETE_PREVIOUS = 6, ///< backspace, with a caret
+    CORVANE_COMMAND_DELETE_NEXT = 7,     ///< delete, with a caret
+};
+
+/// Any other number is CORVANE_INLINE_BOLD.
+typedef int64_t corvane_inline_style;
+enum {
+    CORVANE_INLINE_BOLD = 0,
+    CORVANE_INLINE_ITALIC = 1,
+    CORVANE_INLINE_STRIKETHROUGH = 2,
+    CORVANE_INLINE_UNDERLINE = 3,
+    CORVANE_INLINE_HIGHLIGHT = 4,
+    CORVANE_INLINE_HIGHLIGHT_RED = 5,
+    CORVANE_INLINE_HIGHLIGHT_BLUE = 6,
+    CORVANE_INLINE_HIGHLIGHT_GREEN = 7,
+    CORVANE_INLINE_HIGHLIGHT_YELLOW = 8,
+    CORVANE_INLINE_HIGHLIGHT_PURPLE = 9,
+    CORVANE_INLINE_CODE = 10,
+    CORVANE_INLINE_MATH = 11,
+};
+
+/// Any other number is CORVANE_BLOCK_HEADING_1.
+typedef int64_t corvane_block_style;
+enum {
+    CORVANE_BLOCK_HEADING_1 = 0,
+    CORVANE_BLOCK_HEADING_2 = 1,
+    CORVANE_BLOCK_HEADING_3 = 2,
+    CORVANE_BLOCK_HEADING_4 = 3,
+    CORVANE_BLOCK_HEADING_5 = 4,
+    CORVANE_BLOCK_HEADING_6 = 5,
+    CORVANE_BLOCK_BULLET_LIST = 6,
+    CORVANE_BLOCK_ORDERED_LIST = 7,
+    CORVANE_BLOCK_TASK_LIST = 8,
+    CORVANE_BLOCK_QUOTE = 9,
+    CORVANE_BLOCK_CODE = 10,
+    CORVANE_BLOCK_MATH = 11,
+    CORVANE_BLOCK_CALLOUT = 12,
+    CORVANE_BLOCK_CALLOUT_NOTE = 13,
+    CORVANE_BLOCK_CALLOUT_TIP = 14,
+    CORVANE_BLOCK_CALLOUT_CAUTION = 15,
+    CORVANE_BLOCK_CALLOUT_WARNING = 16,
+    CORVANE_BLOCK_CALLOUT_IMPORTANT = 17,
+};
+
+/// How many commands there are; they are numbered from 0.
+CORVANE_API int32_t corvane_command_count(void);
+/// The name of a command in ASCII, such as "indent": the same in every version and language. Good for ever;
+/// null for what is no command.
+CORVANE_API const char* corvane_command_name(corvane_command command);
+/// The command of a name, -1 if there is none or the name is null.
+CORVANE_API corvane_command corvane_command_with_name(const char* name);
+/// What the argument at an index from 0 must be: CORVANE_VALUE_INTEGER, CORVANE_VALUE_BOOLEAN or
+/// CORVANE_VALUE_STRING. CORVANE_VALUE_NONE if the command takes fewer, and for what is no command.
+CORVANE_API corvane_value_kind corvane_command_argument_kind(corvane_command command, int32_t index);
+
+/// What a command takes. 24 bytes on wasm32 as on 64-bit machines.
+typedef struct corvane_argument {
+    int64_t number;           ///< of integers and booleans, which are 1 or 0; 0 for strings
+    const corvane_unit* text; ///< of strings; null for other kinds
+    int64_t text_length;      ///< 0 for other kinds
+} corvane_argument;
+
+/// Asks a command about a range and the selection of the editor, mostly the same. `arguments` are as many as
+/// it takes, and may be null for those that take none.
+///
+/// CORVANE_ERROR_NUMBER for what is no command, CORVANE_ERROR_RANGE if range or selection do not lie in the
+/// text, CORVANE_ERROR_ARGUMENTS if there are too few or too many or one has what its kind has not.
+CORVANE_API corvane_status corvane_note_run_command(const corvane_note* note, corvane_command command,
+                                                    int64_t location, int64_t length,
+                                                    int64_t selection_location, int64_t selection_length,
+                                                    const corvane_argument* arguments, int64_t argument_count,
+                                                    corvane_results** results);
+
+/// A correction of an edit, which the editor asks for before it makes that edit.
+typedef int32_t corvane_correction;
+enum {
+    CORVANE_CORRECTION_FENCED_CODE = 0,     ///< fences of code come in pairs
+    CORVANE_CORRECTION_LIST_ITEM_SPACE = 1, ///< no more blanks behind the marker of an item
+    CORVANE_CORRECTION_CALLOUT = 2,         ///< text stays a space away from the marker of a callout
+    CORVANE_CORRECTION_MATH_BLOCK = 3,      ///< "$$" does not swallow the text behind it
+    CORVANE_CORRECTION_TABLE_SPACE = 4,     ///< text stays a space away from the pipes of a table
+};
+
+/// As with commands.
+CORVANE_API int32_t corvane_correction_count(void);
+CORVANE_API const char* corvane_correction_name(corvane_correction correction);
+CORVANE_API corvane_correction corvane_correction_with_name(const char* name);
+
+/// Asks a correction about an edit, which is still to be made, and the selection that the editor would show
+/// behind it. When there are replacements, they are to be made instead of the edit.
+///
+/// CORVANE_ERROR_NUMBER for what is no correction, CORVANE_ERROR_RANGE if the range does not lie in the text,
+/// or the selection not in the text behind the edit.
+CORVANE_API corvane_status corvane_note_run_correction(const corvane_note* note,
+                                                       corvane_correction correction, int64_t location,
+                                                       int64_t length, const corvane_unit* text,
+                                                       int64_t text_length, int64_t selection_location,
+                                                       int64_t selection_length, corvane_results** results);
 
 // Snippets: Markdown from values. They need no note. Only the label and the URL of a link or image are
 // escaped: titles, codes, footnote labels and texts go in as they stand.

@@ -119,6 +119,9 @@ set(CORVANE_PUBLIC_HEADERS
     client/QueryValues.h
     client/QueryWrapped.h
     client/StringBuilder.h
+    operation/DocumentParts.h
+    operation/IndentInfo.h
+    operation/LineWalk.h
     operation/Operation.h
     operation/OperationDeleteNext.h
     operation/OperationDeletePrevious.h

@@ -1,5 +1,6 @@
-// Holds a note, styles it, types into it, styles the range that the edit gave, and asks about its list. At
-// last it tries what does not fit, and fails if the answer is not the error that corvane.h tells.
+// Holds a note, styles it, types into it, styles the range that the edit gave, asks about its list, and
+// presses return in it. At last it tries what does not fit, and fails if the answer is not the error that
+// corvane.h tells.
 #include <inttypes.h>
 #include <stdio.h>
 
@@ -78,6 +79,21 @@ static void ask(const corvane_note* note) {
     corvane_annotation_destroy(annotation);
 }
 
+/// Asks what the return key does with the caret at a place, and does it.
+static void press_return(corvane_note* note, int64_t caret) {
+    corvane_results* results = NULL;
+    corvane_range restyle = {0, 0};
+    corvane_range selection = {0, 0};
+    expect(
+        CORVANE_OK,
+        corvane_note_run_command(note, CORVANE_COMMAND_INSERT_NEWLINE, caret, 0, caret, 0, NULL, 0, &results),
+        "return");
+    expect(CORVANE_OK, corvane_note_apply_results(note, results, &restyle, &selection), "apply");
+    corvane_results_destroy(results);
+    printf("return moves the caret from %" PRId64 " to %" PRId64 "\n", caret, selection.location);
+    style(note, restyle);
+}
+
 static void print_html(const corvane_note* note) {
     corvane_string* html = NULL;
     expect(CORVANE_OK, corvane_note_html(note, &html), "html");
@@ -122,6 +138,7 @@ int main(void) {
     expect(CORVANE_OK, corvane_note_replace(note, 9, 0, &s, 1, &restyle), "type a letter");
     style(note, restyle);
     ask(note);
+    press_return(note, 31);
     print_html(note);
 
     try_errors(note);

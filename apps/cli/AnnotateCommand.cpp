@@ -4,6 +4,7 @@
 
 #include "Commands.h"
 #include "Note.h"
+#include "Ranges.h"
 #include "ValueJson.h"
 #include "corvane/scan/Util.h"
 
@@ -24,9 +25,8 @@ bool isBefore(const Line& a, const Line& b) {
 }
 
 std::string printed(const Line& line) {
-    return R"({"range":[)" + std::to_string(line.range.location) + "," + std::to_string(line.range.length) +
-           R"(],"key":")" + Ondo::Util::utf8(line.key.string()) + R"(","value":)" + jsonText(*line.value) +
-           "}\n";
+    return R"({"range":)" + jsonText(line.range) + R"(,"key":")" + Ondo::Util::utf8(line.key.string()) +
+           R"(","value":)" + jsonText(*line.value) + "}\n";
 }
 
 /// The runs of a share of the text, which begins at `start`, that lie in `range`, clipped to it.
@@ -59,11 +59,8 @@ CVNRange roundedOut(const CVNAST& note, CVNRange range) {
 
 CVNRange wantedRange(const Options& options, std::int64_t length) {
     if (!options.range) return {0, length};
-    const CVNRange range = *options.range;
-    if (range.location <= length && range.length <= length - range.location) return range;
-    throw Failure("--range: " + std::to_string(range.location) + "," + std::to_string(range.length) +
-                      " reaches outside the text of " + std::to_string(length) + " code units",
-                  BadUsage);
+    requireInText("--range", *options.range, length);
+    return *options.range;
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "Arguments.h"
 
-#include <charconv>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -8,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
+#include "Ranges.h"
 #include "corvane/Version.h"
 
 namespace Cli {
@@ -60,43 +60,27 @@ void addChoice(CLI::App& app, const std::string& name, const Choice<Value> (&cho
         ->default_str(defaultName);
 }
 
-void addNote(CLI::App& app, Options& options) {
-    app.add_option("FILE", options.file, "The note, in UTF-8; standard input if it is missing or -")
-        ->type_name("");
+void addRules(CLI::App& app, Options& options) {
     addChoice(app, "--rules", ruleChoices, options.rules, "The rule set");
 }
 
-/// A count at the start of a word, which loses it; null when there is none.
-std::optional<std::int64_t> takeCount(std::string_view& word) {
-    std::int64_t count = 0;
-    const bool isDigit = !word.empty() && word[0] >= '0' && word[0] <= '9';
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), count);
-    if (!isDigit || error != std::errc()) return std::nullopt;
-    word.remove_prefix(static_cast<std::size_t>(end - word.data()));
-    return count;
+void addNote(CLI::App& app, Options& options) {
+    app.add_option("FILE", options.file, "The note, in UTF-8; standard input if it is missing or -")
+        ->type_name("");
+    addRules(app, options);
 }
 
-std::optional<CVNRange> rangeOf(std::string_view word) {
-    const auto offset = takeCount(word);
-    if (!offset || !word.starts_with(',')) return std::nullopt;
-    word.remove_prefix(1);
-    const auto length = takeCount(word);
-    if (!length || !word.empty()) return std::nullopt;
-    return CVNRange{*offset, *length};
-}
-
-std::string complaintAboutRange(const std::string& word) {
-    if (rangeOf(word)) return {};
-    return word + " is not two whole numbers with a comma between them, from 0 to 9223372036854775807";
+void addRange(CLI::App& app, const std::string& name, std::optional<CVNRange>& range,
+              const std::string& about) {
+    app.add_option_function<std::string>(
+           name, [&range](const std::string& word) { range = rangeOf(word); }, about)
+        ->type_name("OFFSET,LENGTH")
+        ->check(complaintAboutRange);
 }
 
 void addAnnotate(CLI::App& app, Options& options) {
     addNote(app, options);
-    app.add_option_function<std::string>(
-           "--range", [&options](const std::string& word) { options.range = rangeOf(word); },
-           "Print what lies inside this range")
-        ->type_name("OFFSET,LENGTH")
-        ->check(complaintAboutRange);
+    addRange(app, "--range", options.range, "Print what lies inside this range");
 }
 
 void addShow(CLI::App& app, Options& options) {
@@ -122,6 +106,43 @@ void addType(CLI::App& app, Options& options) {
         ->type_name("N")
         ->check(CLI::Range(std::int64_t{1}, std::int64_t{1'000'000'000}).description({}))
         ->capture_default_str();
+}
+
+/// What `op` and `correct` have in common.
+void addRanges(CLI::App& app, Options& options, const std::string& aboutSelection) {
+    app.add_flag("--list", options.list, "Print the names, and nothing else");
+    addRange(app, "--range", options.range, "The range that it is run on");
+    addRange(app, "--selection", options.selection, aboutSelection);
+}
+
+void addOp(CLI::App& app, Options& options) {
+    app.add_option("NAME", options.name, "The command")->type_name("");
+    app.add_option("ARG", options.words,
+                   "Its arguments, then the note, in UTF-8; standard input if that is missing or -")
+        ->type_name("");
+    addRanges(app, options, "The selection; the range if it is missing");
+    addRules(app, options);
+    app.add_flag("--apply", options.apply,
+                 "Print the text, the selection and what to redraw behind the command");
+}
+
+void addCorrect(CLI::App& app, Options& options) {
+    app.add_option("NAME", options.name, "The correction")->type_name("");
+    addNote(app, options);
+    addRanges(app, options,
+              "The selection proposed for behind the edit; a caret behind the text if it is missing");
+    app.add_option("--text", options.text, "What takes the place of the range, as it stands")
+        ->type_name("TEXT");
+}
+
+void addKeys(CLI::App& app, Options& options) {
+    app.add_option("FILE", options.file, "The note to start with, in UTF-8; an empty one if it is missing")
+        ->type_name("");
+    addRules(app, options);
+    app.add_option("--script", options.script, "The keys, or - for standard input")->type_name("FILE");
+    app.add_flag("--list", options.list, "Print the keys, and nothing else");
+    app.add_flag("--trace", options.trace, "Print what each key led to");
+    app.add_flag("--check", options.check, "Compare tree and painting with a fresh note's after every key");
 }
 
 struct CommandRow {
@@ -173,6 +194,41 @@ rules "commonmark", in which nothing folds, the runs of CVNFoldable are left out
 
 Example:
   corvane type --every 1 note.md)"},
+    {"op", "Print what a command of an editor does to a note", addOp, op,
+     R"(The commands and their arguments are listed by --list. Printed is one JSON array of replacements, each in
+the text that the ones before it left, or [] where the command has no opinion:
+  [{"range":[offset,length],"text":"...","selection":[offset,length]}]
+The selection of the last one is the one to show. With --apply one object is printed instead; without an
+opinion it has the text and the selection as they were, and nothing to redraw:
+  {"text":"...","selection":[offset,length],"redraw":[offset,length] or null}
+Offsets and lengths count UTF-16 code units.
+
+Example:
+  printf 'some text' | corvane op toggleInlineStyle 0 --range 5,4)"},
+    {"correct", "Print what a correction of the keyboard makes of an edit", addCorrect, correct,
+     R"(The corrections are listed by --list. The edit would replace --range by --text, which is taken as it
+stands: a shell writes a line feed as $'\n', and a text that begins with - as --text=-. Printed is an array
+as "corvane op" prints it, [] if the edit is to be made as it is.
+
+Example:
+  printf '> [!TIP]' | corvane correct calloutCorrectionIn --range 8,0 --text a)"},
+    {"keys", "Press keys as a person would and print the note that comes out", addKeys, keys,
+     R"(Each line of the script is a key; blank lines and those that begin with # are none. The caret starts at the
+end of the note.
+  text:TEXT             types each character of TEXT
+  paste:TEXT            pastes TEXT as one edit
+  select:OFFSET,LENGTH  selects, in UTF-16 code units
+  enter, backspace, bold, heading-2 ...
+The others are listed by --list; "left*3" presses one three times. TEXT goes to the end of the line and has the
+escapes of JSON: \n is a line feed, \\ a backslash. Each key goes the whole road of an editor: corrections,
+command, edit, selection, painting. Printed is
+  {"text":"...","selection":[offset,length]}
+and with --trace before it, for each key, the line of the script, the key, who answered it and the state:
+  {"line":1,"key":"enter","by":"insertNewlineInRange","text":"...","selection":[...],"redraw":[...]}
+"by" is the name of a correction or command, "edit", or null for a key that changed nothing.
+
+Example:
+  printf 'text:- one\nenter\ntext:two\n' | corvane keys --script -)"},
 };
 
 void addCommands(CLI::App& app, Options& options) {
@@ -228,9 +284,11 @@ Outcome runArguments(int argc, const char* const* argv) {
     }
     if (app.get_subcommands().empty())
         throw Failure("a command is missing; corvane --help lists them", BadUsage);
-    if (options.file == "-" && options.script == "-")
+    const CommandRow& command = *findCommand(app.get_subcommands().front()->get_name());
+    const std::string defaultFile = command.run == keys ? "" : "-";
+    if (options.file.value_or(defaultFile) == "-" && options.script == "-")
         throw Failure("FILE and --script can't both be standard input", BadUsage);
-    return findCommand(app.get_subcommands().front()->get_name())->run(options);
+    return command.run(options);
 }
 
 } // namespace Cli

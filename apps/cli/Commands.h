@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Outcome.h"
 #include "corvane/client/CVNRange.h"
@@ -19,13 +20,20 @@ enum class Colors { Auto, Always, Never };
 /// What the command line said, with the defaults of what it left out. Files are paths; "-" is standard input.
 struct Options {
     Ondo::RuleConfig::RuleSet rules = Ondo::RuleConfig::Extended;
-    std::string file = "-";
-    std::string script;
+    std::optional<std::string> file; ///< missing: standard input, but for `keys` an empty note
+    std::optional<std::string> script;
     bool check = false; ///< compare with a fresh parse after every edit
     Print print = Print::None;
-    std::int64_t every = 10;       ///< from 1 on
-    std::optional<CVNRange> range; ///< not negative, but not known to lie in a text
+    std::int64_t every = 10;           ///< from 1 on
+    std::optional<CVNRange> range;     ///< not negative, but not known to lie in a text
+    std::optional<CVNRange> selection; ///< the same
     Colors colors = Colors::Auto;
+    std::optional<std::string> name; ///< of `op` and `correct`
+    std::vector<std::string> words;  ///< of `op`: what stands behind the name
+    std::optional<std::string> text;
+    bool apply = false;
+    bool list = false;
+    bool trace = false;
 };
 
 /// The commands throw a Failure for input that they can't take.
@@ -35,5 +43,8 @@ Outcome annotate(const Options& options);
 Outcome show(const Options& options);
 Outcome edit(const Options& options);
 Outcome type(const Options& options);
+Outcome op(const Options& options);
+Outcome correct(const Options& options);
+Outcome keys(const Options& options);
 
 } // namespace Cli

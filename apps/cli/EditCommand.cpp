@@ -1,5 +1,7 @@
 #include "Commands.h"
 #include "Input.h"
+#include "Note.h"
+#include "Ranges.h"
 #include "Script.h"
 #include "TreeCheck.h"
 #include "corvane/scan/Util.h"
@@ -9,20 +11,17 @@ namespace Cli {
 
 namespace {
 
-std::string bracketed(const Ondo::Range& range) {
-    return "[" + std::to_string(range.offset) + "," + std::to_string(range.length) + "]";
-}
-
 std::string redrawLine(const std::vector<Ondo::Range>& ranges) {
     std::string line = "{\"redraw\":[";
     for (const Ondo::Range& range : ranges)
-        line += (&range == ranges.data() ? "" : ",") + bracketed(range);
+        line += (&range == ranges.data() ? "" : ",") + jsonText(CVNRange::of(range));
     return line + "]}\n";
 }
 
 void requireInText(const ScriptEdit& edit, std::int64_t length, const std::string& file) {
-    if (edit.range.offset <= length && edit.range.length <= length - edit.range.offset) return;
-    throw Failure(linePlace(file, edit.line) + ": the range " + bracketed(edit.range) +
+    const CVNRange range = CVNRange::of(edit.range);
+    if (isInText(range, length)) return;
+    throw Failure(linePlace(file, edit.line) + ": the range " + jsonText(range) +
                   " reaches outside the text of " + std::to_string(length) + " code units");
 }
 
@@ -43,19 +42,20 @@ std::u16string printed(const Ondo::Tree& tree, Print print) {
 } // namespace
 
 Outcome edit(const Options& options) {
-    const std::vector<ScriptEdit> edits = parseScript(readUtf8(options.script), options.script);
-    Ondo::Tree tree(readText(options.file), options.rules);
+    const std::string script = options.script.value_or("-");
+    const std::vector<ScriptEdit> edits = parseScript(readUtf8(script), script);
+    Ondo::Tree tree(readNoteText(options), options.rules);
     Outcome outcome;
     std::int64_t number = 0;
     for (const ScriptEdit& edit : edits) {
         ++number;
-        requireInText(edit, tree.length(), options.script);
+        requireInText(edit, tree.length(), script);
         outcome.output += redrawLine(tree.replace(edit.range, edit.text));
         if (!options.check) continue;
         std::string difference = differenceFromFreshParse(tree);
         if (!difference.empty())
             return {{},
-                    linePlace(options.script, edit.line) + ": edit " + std::to_string(number) +
+                    linePlace(script, edit.line) + ": edit " + std::to_string(number) +
                         " leaves a tree that differs from a fresh parse",
                     std::move(difference)};
     }

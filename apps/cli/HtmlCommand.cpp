@@ -1,12 +1,12 @@
 #include "Commands.h"
-#include "Input.h"
+#include "Note.h"
 #include "corvane/scan/Util.h"
 #include "corvane/tree/Tree.h"
 
 namespace Cli {
 
 Outcome html(const Options& options) {
-    return {Ondo::Util::utf8(Ondo::Tree(readText(options.file), options.rules).toHtml())};
+    return {Ondo::Util::utf8(Ondo::Tree(readNoteText(options), options.rules).toHtml())};
 }
 
 } // namespace Cli

@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "Commands.h"
-#include "Input.h"
+#include "Note.h"
 #include "Progress.h"
 #include "Typist.h"
 #include "corvane/scan/Util.h"
@@ -59,7 +59,7 @@ void retype(Typist& typist, std::u16string_view text, std::int64_t every) {
 } // namespace
 
 Outcome type(const Options& options) {
-    const std::u16string text = readText(options.file);
+    const std::u16string text = readNoteText(options);
     Typist typist(options);
     try {
         typeAll(typist, text);

@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
-#include <optional>
 #include <utility>
 
 #include "Note.h"
+#include "Ranges.h"
 #include "Statistics.h"
 #include "TreeCheck.h"
-#include "ValueJson.h"
-#include "corvane/scan/Util.h"
 
 namespace Cli {
 
@@ -37,16 +35,6 @@ CVNRange unionOf(const std::vector<Ondo::Range>& ranges) {
 
 void add(std::vector<std::int64_t>& durations, const std::vector<std::int64_t>& others) {
     std::transform(durations.begin(), durations.end(), others.begin(), durations.begin(), std::plus<>());
-}
-
-/// Where nothing folds, no edit watches whether something stands behind a heading to fold.
-std::vector<CVNAttributeName> unwatchedKeys(Ondo::RuleConfig::RuleSet rules) {
-    if (rules != Ondo::RuleConfig::Commonmark) return {};
-    return {CVNFoldableAttributeName};
-}
-
-std::string valueText(const CVNValue* value) {
-    return value ? jsonText(*value) : "no value";
 }
 
 std::string padded(const std::string& text, std::size_t width) {
@@ -93,21 +81,8 @@ void Typist::check(CVNRange restyled) const {
     const std::string start = "keystroke " + std::to_string(keystrokes()) + " leaves ";
     if (std::string difference = differenceFromFreshParse(tree()); !difference.empty())
         throw Mismatch{start + treeDiffers, std::move(difference)};
-    if (std::string difference = paintingDifference(); !difference.empty())
-        throw Mismatch{start + paintingDiffers, difference + "  restyled: [" +
-                                                    std::to_string(restyled.location) + "," +
-                                                    std::to_string(restyled.length) + "]\n"};
-}
-
-/// The first place at which an editor that repainted only what the keystrokes returned does not show what a
-/// fresh note gives.
-std::string Typist::paintingDifference() const {
-    const CVNAttributedString fresh = CVNAST::fromMarkdown(note_.markdown()).annotatedString();
-    const std::optional<Painted::Difference> found =
-        painted_.differenceFrom(fresh, unwatchedKeys(tree().ruleSet));
-    if (!found) return {};
-    return Ondo::Util::utf8(found->key.string()) + " at offset " + std::to_string(found->offset) +
-           "\n  painted: " + valueText(found->painted) + "\n  fresh: " + valueText(found->fresh) + "\n";
+    if (std::string difference = differenceFromFreshPainting(note_, painted_); !difference.empty())
+        throw Mismatch{start + paintingDiffers, difference + "  restyled: " + jsonText(restyled) + "\n"};
 }
 
 std::string Typist::statistics() const {
@@ -127,7 +102,8 @@ std::string Typist::statistics() const {
 Outcome Typist::result() const {
     Outcome outcome{statistics()};
     conclude(outcome, "equal to a fresh parse", treeDiffers, differenceFromFreshParse(tree()));
-    conclude(outcome, "painted like a fresh note", paintingDiffers, paintingDifference());
+    conclude(outcome, "painted like a fresh note", paintingDiffers,
+             differenceFromFreshPainting(note_, painted_));
     return outcome;
 }
 

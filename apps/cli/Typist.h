@@ -43,7 +43,6 @@ public:
 private:
     std::int64_t keystrokes() const { return static_cast<std::int64_t>(replacing_.size()); }
     std::string statistics() const;
-    std::string paintingDifference() const;
     void check(CVNRange restyled) const;
 };
 

@@ -80,4 +80,8 @@ std::string jsonText(const CVNValue& value) {
     return withoutControls(jsonOf(value).dump());
 }
 
+std::string jsonText(std::u16string_view text) {
+    return withoutControls(Json(Ondo::Util::utf8(text)).dump());
+}
+
 } // namespace Cli

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "corvane/client/CVNValue.h"
 
@@ -9,5 +10,7 @@ namespace Cli {
 /// The value of an attribute run as JSON on one line, in UTF-8. List information is an object of its seven
 /// coding keys. Lone surrogates become U+FFFD.
 std::string jsonText(const CVNValue& value);
+/// A string in the same form.
+std::string jsonText(std::u16string_view text);
 
 } // namespace Cli

@@ -14,7 +14,7 @@ struct CORVANE_EXPORT CVNASTOperationResult {
     std::u16string replacementString; ///< empty deletes
     CVNRange proposedSelection;       ///< in the text behind this replacement; an empty one is a caret
 
-    /// "{0, 1} rep text with {0, 4} select".
+    /// "CVNASTOperationResult rep {0, 1} with text select {4, 0}".
     std::u16string description() const;
     bool operator==(const CVNASTOperationResult&) const = default;
 };

@@ -5,6 +5,25 @@
 
 namespace CVN::Correction {
 
+struct PendingEdit;
+class EditedLine;
+
+/// Keeps the two fences of a code block alike, and closes a block as soon as its opening fence is typed.
+///
+/// - Backticks typed at one fence of a closed block go into the other one as well, and backticks deleted from
+///   one leave the other, as long as both stay fences.
+/// - Backticks that bring a run to three or more where a line's content begins make an opening fence. A
+///   closing fence of the same length goes on a line of its own behind that line, with the line's prefix, so
+///   that it belongs to the same quotes and items; an item's marker becomes blanks, or tabs with the style
+///   Tabs. The selection stays with the edit. Nothing is added where a fence further down, which was open
+///   until then, closes the block, and where a backtick stands in the rest of the line, which makes it text.
+/// - Backticks that close a block on a line with only blank lines between it and the closing fence that is
+///   there take its place: the other one goes.
+/// - An edit of the opening line of a block with only blank lines that leaves no opening fence there, as in
+///   "```x`" or "``", takes the closing fence along.
+///
+/// All of this looks at fences of backticks in blocks of code that begin with them; fences of tildes are left
+/// alone, as is the inside of a block, open or closed.
 class CORVANE_EXPORT FencedCodeCorrection : public Correction {
 public:
     explicit FencedCodeCorrection(Operation::IndentStyle style) : style_(style) {}
@@ -14,6 +33,8 @@ public:
                                        std::int64_t selectionLength) const override;
 
 private:
+    std::vector<Operation::Result> closedBlock(const PendingEdit& edit, const EditedLine& line) const;
+
     Operation::IndentStyle style_;
 };
 

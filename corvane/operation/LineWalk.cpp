@@ -36,6 +36,10 @@ char16_t unitAt(const Ondo::Tree& tree, std::int64_t offset) {
     return tree.markdownIn({offset, 1}).front();
 }
 
+std::u16string_view emptyLineAt(const Ondo::Tree& tree, std::int64_t lineStart) {
+    return unitAt(tree, lineStart - 1) == u'\r' ? u"\n\n" : u"\n";
+}
+
 std::u16string_view textOf(const Ondo::Tree& tree, const Node::Iterator& at) {
     return tree.markdownIn({at.offset, at->charCount});
 }

@@ -31,6 +31,9 @@ bool isLineStart(const Ondo::Tree& tree, std::int64_t offset);
 
 /// The code unit at an offset; 0 outside the text.
 char16_t unitAt(const Ondo::Tree& tree, std::int64_t offset);
+/// What makes an empty line of its own when it goes in where a line starts: behind a lone carriage return a
+/// line feed only completes that line's ending.
+std::u16string_view emptyLineAt(const Ondo::Tree& tree, std::int64_t lineStart);
 /// Good until the next piece of text is read.
 std::u16string_view textOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& at);
 
@@ -38,6 +41,9 @@ std::u16string_view textOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& a
 
 inline bool isOfType(const Ondo::Node* node, std::uint16_t type) {
     return node && node->type == type;
+}
+inline bool isBlank(const Ondo::Node* node) {
+    return isOfType(node, Ondo::ONDO_BLANK_LINE_NODE);
 }
 inline bool isListItem(const Ondo::Node* node) {
     return isOfType(node, Ondo::ONDO_LIST_ITEM_NODE);

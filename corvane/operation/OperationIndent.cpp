@@ -1,5 +1,9 @@
 #include "corvane/operation/OperationIndent.h"
 
+#include <algorithm>
+
+#include "corvane/block/List.h"
+#include "corvane/operation/BlockStructure.h"
 #include "corvane/scan/Lines.h"
 
 namespace CVN::Operation {
@@ -7,15 +11,6 @@ namespace CVN::Operation {
 namespace {
 
 using Ondo::Node;
-
-bool isContainer(const Node* node) {
-    return node && (node->type == Ondo::ONDO_LIST_ITEM_NODE || node->type == Ondo::ONDO_BLOCK_QUOTE_NODE);
-}
-
-bool isContainerMarker(const Node* node) {
-    return node && (node->type == Ondo::ONDO_LIST_ITEM_MARKER_NODE ||
-                    node->type == Ondo::ONDO_BLOCK_QUOTE_MARKER_NODE);
-}
 
 /// The lines between two fences.
 bool isFencedContent(const Node* node) {
@@ -49,6 +44,72 @@ bool isIndentation(const Node* space, const Node* block) {
            !isRestOfBlankLine(space) && isContainer(block->parent);
 }
 
+/// Blocks that hold together: their lines move as one.
+bool isUndivided(const Node* block) {
+    return block->category > Node::Category::ContainerBlock && block->type != Ondo::ONDO_PARAGRAPH_NODE &&
+           block->type != Ondo::ONDO_SETEXT_HEADING_NODE;
+}
+
+/// From a line to the first line of the block that it cannot move without.
+void toFirstLineOfBlock(Node::Iterator& line) {
+    const Node* block = line->isBlock() ? line.node : line->parentBlock();
+    if (line->isBlock() || !isUndivided(block)) return;
+    while (line.node != block)
+        line.parent();
+    line.beginningOfLine();
+}
+
+/// Whether a line, behind a line feed, is no longer the further line of a paragraph.
+bool continuesParagraph(const Node::Iterator& line) {
+    const Node* const block = line->parentBlock();
+    return !line->isBlock() &&
+           (block->type == Ondo::ONDO_PARAGRAPH_NODE || block->type == Ondo::ONDO_SETEXT_HEADING_NODE);
+}
+
+/// The text before the indentation of a line, less its last blanks: what an empty line in its place needs.
+std::u16string emptyLineBefore(const Ondo::Tree& tree, std::int64_t lineStart, const IndentInfo& info) {
+    std::u16string text(tree.markdownIn({lineStart, info.indentationOffset - lineStart}));
+    while (!text.empty() && text.back() == u' ')
+        text.pop_back();
+    return text + u'\n';
+}
+
+std::u16string ordinalOne(const Ondo::Tree& tree, const Node::Iterator& item, const Node::Iterator& marker) {
+    const auto type = static_cast<const Ondo::Block::ListItemNode*>(item.node)->markerType;
+    std::u16string text = type == Ondo::Block::List::MarkerType::ordered_dot ? u"1." : u"1)";
+    if (unitAt(tree, marker.end() - 1) == u' ') text += u' ';
+    return text;
+}
+
+bool isOrdered(const Node* item) {
+    return static_cast<const Ondo::Block::ListItemNode*>(item)->isOrdered();
+}
+
+/// By how much an ordered item's marker gets shorter when it counts from 1.
+std::int64_t shrinkOf(const Ondo::Tree& tree, const Node::Iterator& item) {
+    if (!isOrdered(item.node)) return 0;
+    const Node::Iterator marker = markerOf(item);
+    return marker->charCount - static_cast<std::int64_t>(ordinalOne(tree, item, marker).size());
+}
+
+void setOrdinalToOne(const Ondo::Tree& tree, const Node::Iterator& item, std::vector<Result>& results,
+                     std::int64_t selectionOffset, std::int64_t selectionLength) {
+    const Node::Iterator marker = markerOf(item);
+    std::u16string text = ordinalOne(tree, item, marker);
+    if (textOf(tree, marker) == text) return;
+    Result::addToList(results, marker.offset, marker->charCount, std::move(text), selectionOffset,
+                      selectionLength);
+}
+
+/// A marker of a quote that has no blank of its own would take one of the indentation.
+void replaceIndentation(const Ondo::Tree& tree, const IndentInfo& info, std::u16string text,
+                        std::vector<Result>& results, std::int64_t selectionOffset,
+                        std::int64_t selectionLength) {
+    if (!text.empty() && unitAt(tree, info.indentationOffset - 1) == u'>') text.insert(0, 1, u' ');
+    Result::addToList(results, info.indentationOffset, info.indentationLength, std::move(text),
+                      selectionOffset, selectionLength);
+}
+
 } // namespace
 
 std::pair<bool, std::int64_t> Indent::spaceAsIndentation(const Node* node,
@@ -63,9 +124,328 @@ Indent::spaceAsIndentation(const Node* node, std::u16string_view indentationText
     return {true, Ondo::Lines::Line::indentationAtOffsetRelativeToStart(length, 0, indentationText)};
 }
 
-std::vector<Result> Indent::run(const Ondo::Tree&, std::int64_t, std::int64_t, std::int64_t,
-                                std::int64_t) const {
+std::int64_t Indent::blockNestLevel(const Node* node) {
+    std::int64_t level = 0;
+    for (; node; node = node->parent)
+        if (isBlockQuote(node) || isOfType(node, Ondo::ONDO_LIST_NODE) ||
+            isOfType(node, Ondo::ONDO_INDENTED_CODE_NODE))
+            ++level;
+    return level;
+}
+
+const Node* Indent::uppermostDirectAcendentListItem(const Node* item) {
+    while (const Node* const around = chainParent(item))
+        item = around;
+    return item;
+}
+
+std::int64_t Indent::logicalIndentation(std::int64_t lineStart, std::int64_t offset, std::int64_t length,
+                                        std::u16string_view text) {
+    using Ondo::Lines;
+    return Lines::Line::indentationAtOffsetRelativeToStart(offset + length, lineStart, text) -
+           Lines::Line::indentationAtOffsetRelativeToStart(offset, lineStart, text);
+}
+
+std::int64_t Indent::markerIndentWidth(Node* item) {
+    return CVN::Operation::markerIndentWidth(item);
+}
+
+bool Indent::isAtVirtualBlankLine(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                                  const Node* node) {
+    return length == 0 && offset == tree.length() && isOfType(node, Ondo::ONDO_LINE_ENDING_NODE);
+}
+
+Node::Iterator Indent::findPreviousRelevantListItem(At node, bool virtualBlankLine) {
+    if (virtualBlankLine) {
+        node.beginningOfLine();
+        while (node.node && !node->isBlock())
+            toPreviousLine(node);
+    } else {
+        node.previousSibling();
+    }
+    bool passedBlank = false;
+    for (; isBlank(node.node) && !itemStartingOn(node).node; node.previousSibling())
+        passedBlank = true;
+    while (isOfType(node.node, Ondo::ONDO_LIST_NODE)) {
+        node.lastChild();
+        if (isOfType(node->lastChild, Ondo::ONDO_LIST_NODE)) node.lastChild();
+    }
+    if (node.node && !isListItem(node.node)) node.parent();
+    if (!isListItem(node.node) || (passedBlank && isEmptyItem(node.node))) return {};
+    return node;
+}
+
+std::optional<IndentInfo> Indent::indentInfo(const At& lineNode, const At& item, const Ondo::Tree& tree) {
+    return indentInfoOf(tree, lineNode, item.node, columnsOf(tree, item).content);
+}
+
+Indent::Level Indent::nextLevelIndentation(At item, std::int64_t width, const Ondo::Tree& tree) {
+    Level next{columnsOf(tree, item).content, item.node, codeIndentation - 1};
+    for (item = chainParent(item); item.node; item = chainParent(item)) {
+        const std::int64_t content = columnsOf(tree, item).content;
+        if (content > width) next = {content, item.node, codeIndentation - 1};
+    }
+    return next;
+}
+
+Indent::Level Indent::previousLevelIndentation(At item, std::int64_t width, const Ondo::Tree& tree) {
+    for (; item.node; item = chainParent(item)) {
+        const std::int64_t content = columnsOf(tree, item).content;
+        if (content < width) return {content, item.node, codeIndentation - 1};
+    }
     return {};
+}
+
+std::u16string Indent::indentationString(std::int64_t width, const Node* node, IndentStyle style) {
+    if (style == IndentStyle::Spaces || width == 0)
+        return CVN::Operation::indentationString(width, node, IndentStyle::Spaces);
+    return std::u16string(static_cast<std::size_t>(chainDepth(node)), u'\t');
+}
+
+/// In the simplified dialect a tab makes a line belong to an item whatever the columns, so that tabs and
+/// spaces don't mix: there the lines around tell the style.
+IndentStyle Indent::styleFor(const Ondo::Tree& tree, const At& item, const At& beside) const {
+    if (!isSimplified(tree)) return style_;
+    std::u16string blanks = blanksOfLine(tree, item, item.node) + blanksBelow(tree, item);
+    if (beside.node) {
+        At last = beside;
+        last.lastNodeOfSubtree();
+        last.beginningOfLine();
+        blanks += blanksOfLine(tree, beside, beside.node) + blanksOfLine(tree, last, beside.node);
+    }
+    if (blanks.empty()) return style_;
+    return hasTab(blanks) ? IndentStyle::Tabs : IndentStyle::Spaces;
+}
+
+std::u16string Indent::blanksTo(const Ondo::Tree& tree, const Level& level, std::int64_t startColumn,
+                                IndentStyle style) {
+    const bool mayExceed = isSimplified(tree) && style == IndentStyle::Tabs;
+    std::u16string blanks = indentationString(level.width, level.item, style);
+    const std::int64_t excess = widthFrom(startColumn, blanks) - level.width;
+    return mayExceed || (excess >= 0 && excess <= level.slack) ? blanks
+                                                               : blanksOf(level.width, startColumn, style);
+}
+
+std::int64_t Indent::shiftOf(const Move& move) {
+    return widthFrom(move.info.startColumn, move.blanks) - move.info.logicalWidth;
+}
+
+/// What is nested in the item already must not take in what comes under it.
+Indent::Level Indent::levelUnder(const Ondo::Tree& tree, const At& item) {
+    const std::int64_t content = columnsOf(tree, item).content;
+    const At list = listAtEnd(item);
+    if (!list.node) return {content, item.node, codeIndentation - 1};
+    At nested = list;
+    nested.lastChild();
+    return {content, item.node, std::min(columnsOf(tree, nested).content - content, codeIndentation) - 1};
+}
+
+std::optional<Indent::Move> Indent::moveIn(const Ondo::Tree& tree, const At& line, const Move* before) const {
+    const At item = itemStartingOn(line);
+    if (!item.node) return std::nullopt;
+    const At previous = itemBefore(item);
+    if (!previous.node) return std::nullopt;
+    const auto info = indentInfoOf(tree, line, item.node, 0);
+    if (!info) return std::nullopt;
+    // Items that move together stay together.
+    const bool isTogether = before && before->item.node == previous.node;
+    const At beside = isTogether ? before->beside : previous;
+    const Level level = isTogether ? before->level : levelUnder(tree, previous);
+    const IndentStyle style = isTogether ? before->style : styleFor(tree, item, previous);
+    return Move{line,   item,  true,  *info,
+                beside, level, style, blanksTo(tree, level, info->startColumn, style)};
+}
+
+std::optional<Indent::Move> Indent::moveOut(const Ondo::Tree& tree, const At& start,
+                                            const Move* before) const {
+    if (isBlankLine(start)) return std::nullopt;
+    At line = start;
+    At item = itemStartingOn(line);
+    const bool startsItem = item.node;
+    if (!startsItem) {
+        if (!selfOrAncestor(line.node, Ondo::ONDO_LIST_ITEM_NODE)) return std::nullopt;
+        toFirstLineOfBlock(line);
+        if (itemStartingOn(line).node) return std::nullopt;
+        for (item = line; !isListItem(item.node);)
+            item.parent();
+    }
+    const auto info = indentInfoOf(tree, line, item.node, 0);
+    if (!info || info->logicalWidth == 0) return std::nullopt;
+    const Node* const around = startsItem ? chainParent(item.node) : item.node;
+    if (before && before->beside.node && before->beside.node == around &&
+        before->level.width < info->logicalWidth)
+        return Move{line,           item,          startsItem,    *info,
+                    before->beside, before->level, before->style, before->blanks};
+    const At beside = startsItem ? chainParent(item) : item;
+    const IndentStyle style = styleFor(tree, item, beside);
+    At outer = beside;
+    while (outer.node && columnsOf(tree, outer).marker >= info->logicalWidth)
+        outer = chainParent(outer);
+    Level level;
+    if (outer.node) level = {columnsOf(tree, outer).marker, chainParent(outer.node)};
+    return Move{line,   item,  startsItem, *info,
+                beside, level, style,      blanksTo(tree, level, info->startColumn, style)};
+}
+
+std::vector<Indent::Move> Indent::movesIn(const Ondo::Tree& tree, At line, std::int64_t lastLine) const {
+    std::vector<Move> moves;
+    while (line.node && line.offset <= lastLine) {
+        const Move* const before = moves.empty() ? nullptr : &moves.back();
+        const auto move =
+            action_ == IndentAction::Indent ? moveIn(tree, line, before) : moveOut(tree, line, before);
+        const bool moving =
+            move && (action_ == IndentAction::Indent ? shiftOf(*move) > 0 : shiftOf(*move) < 0);
+        if (!moving) {
+            toNextLine(line);
+            continue;
+        }
+        moves.push_back(*move);
+        line = move->item;
+        line.nextInSequenceSkippingSubtree();
+    }
+    return moves;
+}
+
+/// Blank lines stay, and a line that lacks the markers of the item's quotes has no place of its own.
+void Indent::shiftLine(const Ondo::Tree& tree, const At& line, const At& item, const Shift& shift,
+                       std::vector<Result>& results, Selection selection) const {
+    const auto info = indentInfoOf(tree, line, item.node, 0);
+    if (!info || isLineEnd(tree, info->indentationEnd())) return;
+    const std::int64_t width = std::max<std::int64_t>(info->logicalWidth + shift.columns, 0);
+    if (width == info->logicalWidth) return;
+    std::u16string blanks = blanksIn(tree, *info);
+    if (isSimplified(tree) && (hasTab(blanks) || hasTab(shift.to)) && blanks.starts_with(shift.from))
+        blanks.replace(0, shift.from.size(), shift.to);
+    else
+        blanks = blanksOf(width, info->startColumn, shift.style);
+    replaceIndentation(tree, *info, std::move(blanks), results, selection.offset, selection.length);
+}
+
+/// All lines of a list or item behind the offset `from`, the last one first.
+void Indent::shiftLines(const Ondo::Tree& tree, const At& item, std::int64_t from, const Shift& shift,
+                        std::vector<Result>& results, Selection selection) const {
+    if (shift.columns == 0) return;
+    At line = item;
+    line.lastNodeOfSubtree();
+    line.beginningOfLine();
+    for (; line.node && line.offset > from; toPreviousLine(line))
+        shiftLine(tree, line, item, shift, results, selection);
+}
+
+void Indent::indentLine(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
+                        Selection selection) const {
+    // What belongs to an item whose marker gets shorter stays as far from its text.
+    const std::u16string from = blanksIn(tree, move.info);
+    const Shift shift{shiftOf(move) - shrinkOf(tree, move.item), move.style, from, move.blanks};
+    shiftLines(tree, move.item, move.line.offset, shift, results, selection);
+    if (isOrdered(move.item.node))
+        setOrdinalToOne(tree, move.item, results, selection.offset, selection.length);
+    replaceIndentation(tree, move.info, move.blanks, results, selection.offset, selection.length);
+}
+
+std::int64_t Indent::shiftBehind(const Ondo::Tree& tree, const Move& move, const At& next) const {
+    const ItemColumns own = columnsOf(tree, move.item);
+    const std::int64_t shift = shiftOf(move);
+    const std::int64_t content = own.content + shift;
+    const std::int64_t marker = next.node ? columnsOf(tree, next).marker : content;
+    if (!move.beside.node) return next.node && marker >= content ? shift : 0;
+    const std::int64_t lowest = columnsOf(tree, move.beside).content;
+    const bool belongs = lowest >= content && marker < content + codeIndentation;
+    return belongs && !listAtEnd(move.item).node ? 0 : content - lowest;
+}
+
+/// What stands behind an item that leaves the one around it belongs to it from then on: where the texts of
+/// the two are not in the same column, it moves too.
+void Indent::keepBehind(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
+                        Selection selection) const {
+    At next = move.item;
+    next.nextSibling();
+    At around = move.beside;
+    if (!around.node) {
+        around = move.item;
+        around.parent();
+    }
+    const std::int64_t shift = shiftBehind(tree, move, next);
+    if (!next.node || !move.beside.node || !isOrdered(next.node))
+        return shiftLines(tree, around, move.item.end() - 1, {shift, move.style, {}, {}}, results, selection);
+    shiftLines(tree, around, next.end() - 1, {shift, move.style, {}, {}}, results, selection);
+    shiftLines(tree, next, next.offset, {shift - shrinkOf(tree, next), move.style, {}, {}}, results,
+               selection);
+    setOrdinalToOne(tree, next, results, selection.offset, selection.length);
+    shiftLine(tree, next, next, {shift, move.style, {}, {}}, results, selection);
+}
+
+void Indent::undentLine(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
+                        Selection selection) const {
+    if (results.empty() && move.startsItem) keepBehind(tree, move, results, selection);
+    const std::u16string from = blanksIn(tree, move.info);
+    shiftLines(tree, move.item, move.line.offset, {shiftOf(move), move.style, from, move.blanks}, results,
+               selection);
+    replaceIndentation(tree, move.info, move.blanks, results, selection.offset, selection.length);
+    if (move.startsItem || isSimplified(tree) || !continuesParagraph(move.line)) return;
+    Result::addToList(results, move.line.offset, 0, emptyLineBefore(tree, move.line.offset, move.info),
+                      selection.offset, selection.length);
+}
+
+void Indent::indentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_t offset, bool isVirtual,
+                             std::vector<Result>& results, Selection selection) const {
+    const At item = findPreviousRelevantListItem(isVirtual ? leafAt(tree, offset) : line, isVirtual);
+    if (!item.node) return;
+    IndentInfo info{offset, 0, 0, 0, 0};
+    if (!isVirtual) {
+        const auto found = indentInfo(line, item, tree);
+        if (!found) return;
+        info = *found;
+    }
+    const Level level = nextLevelIndentation(item, info.logicalWidth, tree);
+    if (info.logicalWidth >= level.width) return;
+    replaceIndentation(tree, info, blanksTo(tree, level, info.startColumn, style_), results, selection.offset,
+                       selection.length);
+}
+
+void Indent::undentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_t offset, bool isVirtual,
+                             std::vector<Result>& results, Selection selection) const {
+    const At item = findPreviousRelevantListItem(isVirtual ? leafAt(tree, offset) : line, isVirtual);
+    if (!item.node) return;
+    Level level;
+    if (!isVirtual) {
+        const auto info = indentInfo(line, item, tree);
+        if (!info) return;
+        level = previousLevelIndentation(item, info->logicalWidth, tree);
+        if (info->logicalWidth > level.width)
+            replaceIndentation(tree, *info, blanksTo(tree, level, info->startColumn, style_), results,
+                               selection.offset, selection.length);
+    }
+    if (level.width > 0 || isSimplified(tree)) return;
+    // An empty line keeps what is typed next from joining the list.
+    const bool hasGap = isVirtual ? isBlankLine(line) : isBlank(line->previousSibling);
+    const bool isInDocument = isVirtual || isOfType(line->parent, Ondo::ONDO_DOCUMENT_NODE);
+    if (hasGap || !isInDocument) return;
+    Result::addToList(results, isVirtual ? offset : line.offset, 0, u"\n", selection.offset,
+                      selection.length);
+}
+
+std::vector<Result> Indent::run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                                std::int64_t selectionOffset, std::int64_t selectionLength) const {
+    std::vector<Result> results;
+    if (!tree.root->firstChild) return results;
+    const bool isIndenting = action_ == IndentAction::Indent;
+    const Selection selection{selectionOffset, selectionLength};
+    const At first = lineAt(tree, offset);
+    const At last = lineAt(tree, offset + length);
+    const bool isVirtual = isAtVirtualBlankLine(tree, offset, length, leafAt(tree, offset).node);
+    if (isVirtual || (first.offset == last.offset && isBlankLine(first))) {
+        if (isIndenting)
+            indentBlankLine(tree, first, offset, isVirtual, results, selection);
+        else
+            undentBlankLine(tree, first, offset, isVirtual, results, selection);
+        return results;
+    }
+    const std::vector<Move> moves = movesIn(tree, first, last.offset);
+    for (auto move = moves.rbegin(); move != moves.rend(); ++move)
+        isIndenting ? indentLine(tree, *move, results, selection)
+                    : undentLine(tree, *move, results, selection);
+    return results;
 }
 
 } // namespace CVN::Operation

@@ -27,7 +27,7 @@ struct CORVANE_EXPORT Result {
 
     /// Carries the selection, which until then is one in the text before this replacement, over it. A
     /// replacement that ends where the selection starts moves it, so that a caret lands behind an insertion;
-    /// one that covers it leaves a caret behind the new text.
+    /// one that starts where it ends leaves it; one that covers it leaves a caret behind the new text.
     void offsetSelection();
 
     /// Appends a result. Its selection is that of the last result, or for the first one the given selection,

@@ -1,9 +1,25 @@
 #pragma once
 
+#include <string_view>
+
 #include "corvane/operation/Operation.h"
 
 namespace CVN::Operation {
 
+class InlineEdits;
+struct InlineSpan;
+
+/// Bold, italic, strikethrough, underline, highlight, code and math: sets the style of a range of text, or
+/// takes it away where all of the text has it.
+///
+/// Each line and each cell of a table gets a pair of markers of its own, around its text and not around
+/// blanks or the syntax of blocks. Text that is styled in part becomes one run. A style that goes on beyond
+/// the range is closed before and opened again behind it. Where the markers are there but don't parse, they
+/// are taken away instead of doubled.
+///
+/// At a caret: takes away an empty pair, steps over a marker, toggles the run or the word around the caret,
+/// or inserts a pair and stands in it. Nothing in code, math and HTML blocks, but a pair at the very edge of
+/// a span of code or math. Highlights of all colours take each other's place.
 class CORVANE_EXPORT ToggleInlineStyle : public Operation {
 public:
     explicit ToggleInlineStyle(InlineToggles style) : style_(style) {}
@@ -12,6 +28,52 @@ public:
                             std::int64_t selectionOffset, std::int64_t selectionLength) const override;
 
 private:
+    /// The runs of the style's category that a span starts and ends in; without a node where there is none.
+    struct Runs {
+        Ondo::Node::Iterator start;
+        Ondo::Node::Iterator end;
+    };
+
+    std::vector<Result> runCursor(const Ondo::Tree& tree, std::int64_t offset, std::int64_t selectionOffset,
+                                  std::int64_t selectionLength) const;
+    bool isEmptyPairAt(const Ondo::Tree& tree, std::int64_t offset) const;
+    std::vector<Result> stepOverMarker(const Ondo::Tree& tree, std::int64_t offset) const;
+    /// The node or word that the command applies to at a caret; of length 0 when there is none.
+    Ondo::Range wordAround(const Ondo::Tree& tree, std::int64_t offset) const;
+
+    std::vector<Result> runSelection(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                                     std::int64_t selectionOffset, std::int64_t selectionLength) const;
+    bool uncross(const Ondo::Tree& tree, InlineSpan& span, Ondo::Range& selection) const;
+    bool hasUnstyledText(const InlineSpan& span) const;
+    /// The loose pair of a span, or of the part of it in a range.
+    Ondo::Range loosePairOf(const Ondo::Tree& tree, const InlineSpan& span, const Ondo::Range& range) const;
+
+    void setType(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
+                 const Ondo::Range& selection) const;
+    Runs runsAtEnds(const InlineSpan& span, InlineEdits& edits) const;
+    void setEnd(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
+                const Ondo::Node::Iterator& run, const Ondo::Range& selection) const;
+    void setStart(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
+                  const Ondo::Node::Iterator& run, const Ondo::Range& selection) const;
+    void eraseInnerMarkers(InlineEdits& edits, const InlineSpan& span, const Runs& runs) const;
+
+    void removeType(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span) const;
+    static void removeFromRun(const Ondo::Tree& tree, InlineEdits& edits, const Ondo::Node::Iterator& run,
+                              const InlineSpan& span);
+    /// The part of a run that a span covers, with the whitespace around it, so that the markers on both sides
+    /// hug the words that keep the style.
+    static Ondo::Range adjustForWhitespace(const Ondo::Tree& tree, const Ondo::Node::Iterator& run,
+                                           const InlineSpan& span);
+
+    std::u16string_view startMarkerString() const;
+    std::u16string_view endMarkerString() const;
+    std::int64_t startLength() const;
+    std::int64_t endLength() const;
+    /// Whether two of the style's markers are the marker of another style.
+    bool isSingleCharacter() const {
+        return style_ == InlineToggles::Emphase || style_ == InlineToggles::Underline;
+    }
+
     InlineToggles style_;
 };
 

@@ -77,6 +77,8 @@ public:
             if (inEdit < lengthOf(*edit)) return edit->replacement[static_cast<std::size_t>(inEdit)];
             offset += edit->range.length - lengthOf(*edit);
         }
+        // Unit by unit: a view of more could move all the text behind the last edit.
+        if (offset >= 0 && offset < tree_.length()) return tree_.markdownIn({offset, 1}).front();
         return tree_.markdown().at(static_cast<std::size_t>(offset));
     }
     void append(std::u16string& out, std::int64_t from, std::int64_t to) const {

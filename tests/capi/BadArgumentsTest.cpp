@@ -17,13 +17,17 @@ constexpr std::int64_t tooLong = std::numeric_limits<std::int64_t>::max();
 struct Border {
     Note owner = noteOf(u"# a\n\n- [ ] **b**\n");
     Annotation annotated = annotate(owner, 0, 5);
+    Results made = runCommand(owner, CORVANE_COMMAND_INDENT, {0, 0});
     corvane_note* note = owner.get();
+    const corvane_results* results = made.get();
     const corvane_annotation* ask = annotated.get();
 
     corvane_range range{-7, -7};
     corvane_string* string = nullptr;
     corvane_note* newNote = nullptr;
     corvane_annotation* newAnnotation = nullptr;
+    corvane_results* newResults = nullptr;
+    const corvane_replacement* replacements = nullptr;
     const corvane_unit* text = nullptr;
     const corvane_run* runs = nullptr;
     corvane_run run{-7, -7, -7, -7, -7, nullptr, -7, nullptr};
@@ -33,7 +37,7 @@ struct Border {
     corvane_unit buffer[4] = {};
 
     void expectUntouched() const {
-        EXPECT_TRUE(!string && !newNote && !newAnnotation && !text && !runs);
+        EXPECT_TRUE(!string && !newNote && !newAnnotation && !newResults && !text && !runs && !replacements);
         EXPECT_TRUE(range.location == -7 && range.length == -7 && number == -7 && truth == -7 &&
                     run.kind == -7);
         EXPECT_EQ(utf8(textOf(owner)), "# a\n\n- [ ] **b**\n");
@@ -56,6 +60,29 @@ constexpr corvane_status textFault = CORVANE_ERROR_TEXT;
 constexpr corvane_status numberFault = CORVANE_ERROR_NUMBER;
 constexpr corvane_status nameFault = CORVANE_ERROR_NAME;
 constexpr corvane_status rangeFault = CORVANE_ERROR_RANGE;
+constexpr corvane_status argumentsFault = CORVANE_ERROR_ARGUMENTS;
+
+/// A style, and what is none.
+constexpr corvane_argument bold{CORVANE_INLINE_BOLD, nullptr, 0};
+constexpr corvane_argument twoStyles[] = {bold, bold};
+constexpr corvane_argument named{0, units, 3};
+constexpr corvane_argument noText{0, nullptr, 1};
+
+/// Asks the command for a style, with range and selection at the start.
+corvane_status toggle(Border& b, const corvane_argument* arguments, std::int64_t count) {
+    return corvane_note_run_command(b.note, CORVANE_COMMAND_TOGGLE_INLINE_STYLE, 0, 0, 0, 0, arguments, count,
+                                    &b.newResults);
+}
+/// Asks a command that takes no arguments.
+corvane_status command(Border& b, corvane_command number, corvane_range at, corvane_range selection) {
+    return corvane_note_run_command(b.note, number, at.location, at.length, selection.location,
+                                    selection.length, nullptr, 0, &b.newResults);
+}
+/// Asks a correction about "abc".
+corvane_status correct(Border& b, corvane_correction number, corvane_range at, corvane_range selection) {
+    return corvane_note_run_correction(b.note, number, at.location, at.length, units, 3, selection.location,
+                                       selection.length, &b.newResults);
+}
 
 // A name of each kind of query.
 constexpr auto hasLink = "rangeContainsLink";
@@ -204,6 +231,43 @@ const BadCall badCalls[] = {
     {nullFault, [](Border& b) { return corvane_note_is_foldable(b.note, 0, nullptr); }},
     {rangeFault, [](Border& b) { return corvane_note_is_foldable(b.note, -1, &b.truth); }},
     {rangeFault, [](Border& b) { return corvane_note_is_foldable(b.note, 18, &b.truth); }},
+    // commands and corrections
+    {nullFault,
+     [](Border& b) { return corvane_note_run_command(nullptr, 0, 0, 0, 0, 0, nullptr, 0, &b.newResults); }},
+    {nullFault,
+     [](Border& b) { return corvane_note_run_command(b.note, 99, 0, 0, 0, 0, nullptr, 0, nullptr); }},
+    {nullFault, [](Border& b) { return toggle(b, nullptr, 1); }},
+    {textFault, [](Border& b) { return toggle(b, &noText, 1); }},
+    {textFault,
+     [](Border& b) { return corvane_note_run_command(b.note, 99, 0, 0, 0, 0, &noText, 1, &b.newResults); }},
+    {numberFault, [](Border& b) { return command(b, -1, {0, 0}, {0, 0}); }},
+    {numberFault, [](Border& b) { return command(b, corvane_command_count(), {0, 99}, {0, 0}); }},
+    {rangeFault, [](Border& b) { return command(b, 0, {-1, 1}, {0, 0}); }},
+    {rangeFault, [](Border& b) { return command(b, 0, {1, tooLong}, {0, 0}); }},
+    {rangeFault, [](Border& b) { return command(b, 0, {0, 0}, {18, 0}); }},
+    {rangeFault, [](Border& b) { return command(b, CORVANE_COMMAND_TOGGLE_INLINE_STYLE, {0, 0}, {0, -1}); }},
+    {argumentsFault, [](Border& b) { return toggle(b, nullptr, 0); }},
+    {argumentsFault, [](Border& b) { return toggle(b, &bold, -1); }},
+    {argumentsFault, [](Border& b) { return toggle(b, twoStyles, 2); }},
+    {argumentsFault, [](Border& b) { return toggle(b, &named, 1); }},
+    {argumentsFault,
+     [](Border& b) { return corvane_note_run_command(b.note, 0, 0, 0, 0, 0, &bold, 1, &b.newResults); }},
+    {nullFault,
+     [](Border& b) { return corvane_note_run_correction(nullptr, 0, 0, 0, units, 1, 0, 0, &b.newResults); }},
+    {nullFault,
+     [](Border& b) { return corvane_note_run_correction(b.note, 0, 0, 0, nullptr, 1, 0, 0, nullptr); }},
+    {textFault,
+     [](Border&
+            b) { return corvane_note_run_correction(b.note, 99, 0, 0, nullptr, 1, 0, 0, &b.newResults); }},
+    {numberFault, [](Border& b) { return correct(b, -1, {0, 0}, {3, 0}); }},
+    {numberFault, [](Border& b) { return correct(b, corvane_correction_count(), {0, 0}, {99, 0}); }},
+    {rangeFault, [](Border& b) { return correct(b, 0, {17, 1}, {0, 0}); }},
+    {rangeFault, [](Border& b) { return correct(b, 0, {10, 7}, {13, 1}); }},
+    {nullFault, [](Border& b) { return corvane_results_replacements(nullptr, &b.replacements, &b.number); }},
+    {nullFault, [](Border& b) { return corvane_results_replacements(b.results, nullptr, &b.number); }},
+    {nullFault, [](Border& b) { return corvane_results_replacements(b.results, &b.replacements, nullptr); }},
+    {nullFault, [](Border& b) { return corvane_note_apply_results(nullptr, b.results, &b.range, &b.range); }},
+    {nullFault, [](Border& b) { return corvane_note_apply_results(b.note, nullptr, &b.range, &b.range); }},
     // snippets
     {nullFault, [](Border&) { return corvane_snippet_safe_label(units, 1, nullptr); }},
     {textFault, [](Border& b) { return corvane_snippet_safe_label(nullptr, 1, &b.string); }},
@@ -243,12 +307,15 @@ TEST(Capi, AnswersBadArgumentsAndChangesNothing) {
 TEST(Capi, FunctionsWithoutAStatusTakeNull) {
     corvane_note_destroy(nullptr);
     corvane_annotation_destroy(nullptr);
+    corvane_results_destroy(nullptr);
     corvane_string_destroy(nullptr);
     EXPECT_EQ(corvane_string_units(nullptr), nullptr);
     EXPECT_EQ(corvane_string_length(nullptr), 0);
     EXPECT_EQ(corvane_key_with_name(nullptr), -1);
+    EXPECT_EQ(corvane_command_with_name(nullptr), -1);
+    EXPECT_EQ(corvane_correction_with_name(nullptr), -1);
     EXPECT_STREQ(corvane_status_text(-1), corvane_status_text(99));
-    EXPECT_STREQ(corvane_status_text(CORVANE_ERROR_NOT_EMPTY), "the note is not empty");
+    EXPECT_STREQ(corvane_status_text(CORVANE_ERROR_ARGUMENTS), "the command takes other arguments");
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <tuple>
 
+#include "capi/Handles.h"
 #include "corvane/client/CVNAST.h"
 #include "corvane/scan/Util.h"
 #include "tests/capi/Handles.h"
@@ -123,6 +124,18 @@ TEST(Capi, OptionsHoldForNewNotes) {
     EXPECT_EQ(runsOf(annotation, CORVANE_KEY_STRONG), "CVNStrong [6, 11) true1\n");
     EXPECT_EQ(corvane_note_parse_inlines_only(note.get(), 0), CORVANE_OK);
     EXPECT_EQ(runsOf(annotate(note, 0, std::ssize(sample)), CORVANE_KEY_HEADING), "CVNHeading [0, 12) 1\n");
+}
+
+TEST(Capi, WhatIsOnAlreadyCanBeTurnedOn) {
+    const Note note = noteOf({});
+    EXPECT_EQ(corvane_note_parse_inlines_only(note.get(), 1), CORVANE_OK);
+    ASSERT_EQ(corvane_note_replace_all(note.get(), u"# $a$\n", 6, nullptr), CORVANE_OK);
+    for (const std::int32_t on : {1, 0, 1, 1})
+        EXPECT_EQ(corvane_note_parse_inlines_only(note.get(), on), CORVANE_OK);
+    EXPECT_EQ(corvane_note_disable_math(note.get()), CORVANE_OK);
+    ASSERT_EQ(corvane_note_batch_add(note.get(), 0, 0, units, 3), CORVANE_OK);
+    EXPECT_EQ(corvane_note_parse_inlines_only(note.get(), 1), CORVANE_OK);
+    EXPECT_EQ(runsOf(annotate(note, 0, 6), CORVANE_KEY_HEADING), "");
 }
 
 TEST(Capi, EditsTakeTheNotesOwnText) {
@@ -411,6 +424,160 @@ TEST(Capi, AsksAboutItemsAndCode) {
     EXPECT_EQ(taken(code), "c");
     ASSERT_EQ(corvane_query_code(runs, 0, &code), CORVANE_OK);
     EXPECT_EQ(code, nullptr);
+}
+
+// Commands and corrections
+
+/// That the header's enumerators are numbered as a table's rows, each with the start of the name of its row.
+void expectNumbers(const std::string& prefix, std::int32_t count, const char* (*name)(std::int32_t number),
+                   std::int32_t (*withName)(const char* name)) {
+    std::int32_t rows = 0;
+    for (const std::vector<std::string>& row : header()) {
+        if (row.size() < 3 || !row[0].starts_with(prefix) || row[1] != "=") continue;
+        std::string start = row[0].substr(prefix.size());
+        std::erase(start, '_');
+        ASSERT_LT(rows, count);
+        EXPECT_EQ(row[2], std::to_string(rows) + ',');
+        EXPECT_STRCASEEQ(std::string(name(rows)).substr(0, start.size()).c_str(), start.c_str());
+        EXPECT_EQ(withName(name(rows)), rows);
+        ++rows;
+    }
+    EXPECT_EQ(count, rows);
+    EXPECT_EQ(name(rows), nullptr);
+    EXPECT_EQ(name(-1), nullptr);
+    EXPECT_EQ(withName(""), -1);
+}
+
+TEST(Capi, CommandsAndCorrectionsAreNumberedAsTheirNames) {
+    expectNumbers("CORVANE_COMMAND_", corvane_command_count(), corvane_command_name,
+                  corvane_command_with_name);
+    expectNumbers("CORVANE_CORRECTION_", corvane_correction_count(), corvane_correction_name,
+                  corvane_correction_with_name);
+    for (corvane_command command = -1; command <= corvane_command_count(); ++command) {
+        const bool isToggle =
+            command == CORVANE_COMMAND_TOGGLE_INLINE_STYLE || command == CORVANE_COMMAND_TOGGLE_BLOCK_STYLE;
+        EXPECT_EQ(corvane_command_argument_kind(command, 0),
+                  isToggle ? CORVANE_VALUE_INTEGER : CORVANE_VALUE_NONE);
+        for (const std::int32_t index : {-1, 1, 2, 3})
+            EXPECT_EQ(corvane_command_argument_kind(command, index), CORVANE_VALUE_NONE);
+    }
+}
+
+/// "{range}text{selection} " of each.
+std::string show(const Results& results) {
+    const corvane_replacement* replacements = nullptr;
+    std::int64_t count = -1;
+    EXPECT_EQ(corvane_results_replacements(results.get(), &replacements, &count), CORVANE_OK);
+    const auto range = [](const corvane_range& each) {
+        return '{' + std::to_string(each.location) + ", " + std::to_string(each.length) + '}';
+    };
+    std::string out;
+    for (std::int64_t i = 0; i < count; ++i)
+        out += range(replacements[i].range) +
+               utf8({replacements[i].text, static_cast<std::size_t>(replacements[i].text_length)}) +
+               range(replacements[i].selection) + ' ';
+    return out;
+}
+std::string show(const CVNASTTextOperations::Results& results) {
+    std::string out;
+    for (const CVNASTOperationResult& each : results) {
+        const auto range = [](CVNRange at) {
+            return '{' + std::to_string(at.location) + ", " + std::to_string(at.length) + '}';
+        };
+        out +=
+            range(each.replacementRange) + utf8(each.replacementString) + range(each.proposedSelection) + ' ';
+    }
+    return out;
+}
+
+/// At every place of a note, with different range and selection.
+TEST(Capi, CommandsAndCorrectionsAnswerAsThoseOfTheLibrary) {
+    const std::u16string_view sample = u"## a *b*\n- c\n  - ```\n    d\n    ```\n> [!note]\n> | e |\n";
+    const Note note = noteOf(sample);
+    const CVNAST expected = CVNAST::fromMarkdown(sample);
+    const std::int64_t length = std::ssize(sample);
+    for (std::int64_t at = 0; at <= length; ++at) {
+        const std::int64_t end = std::min(at + 3, length);
+        corvane_results* results = nullptr;
+        for (const CVNTextOperation& row : CVNTextOperation::all()) {
+            const corvane_argument style{7, nullptr, 0};
+            const std::int64_t count = row.parameters[0].kind == CVNTextParameter::Kind::Number;
+            ASSERT_EQ(corvane_note_run_command(note.get(), static_cast<corvane_command>(row.number), at,
+                                               end - at, end, 0, &style, count, &results),
+                      CORVANE_OK);
+            EXPECT_EQ(show(Results(results)),
+                      show(row.run(expected, {at, end - at}, {end, 0}, {CVNTextArgument{7, {}}})))
+                << row.name << " at " << at;
+        }
+        for (const CVNTextCorrection& row : CVNTextCorrection::all()) {
+            ASSERT_EQ(corvane_note_run_correction(note.get(), static_cast<corvane_correction>(row.number), at,
+                                                  0, u"`", 1, at + 1, 0, &results),
+                      CORVANE_OK);
+            EXPECT_EQ(show(Results(results)), show(row.run(expected, {at, 0}, u"`", {at + 1, 0})))
+                << row.name << " at " << at;
+        }
+    }
+}
+
+TEST(Capi, ResultsAreAppliedToTheTextTheyWereMadeFor) {
+    const std::u16string_view sample = u"- one\n- two\n- three\n";
+    const Note note = noteOf(sample);
+    const Results results = runCommand(note, CORVANE_COMMAND_INSERT_NEWLINE, {19, 0});
+    corvane_range restyle{-7, -7};
+    corvane_range selection{-7, -7};
+
+    const Note shorter = noteOf(sample.substr(0, 12));
+    EXPECT_EQ(corvane_note_apply_results(shorter.get(), results.get(), &restyle, &selection),
+              CORVANE_ERROR_RANGE);
+    EXPECT_EQ(textOf(shorter), sample.substr(0, 12));
+    ASSERT_EQ(corvane_note_batch_add(note.get(), 0, 0, units, 3), CORVANE_OK);
+    EXPECT_EQ(corvane_note_apply_results(note.get(), results.get(), &restyle, &selection),
+              CORVANE_ERROR_PENDING);
+    EXPECT_EQ(textOf(note), sample);
+    ASSERT_EQ(corvane_note_batch_discard(note.get()), CORVANE_OK);
+    EXPECT_TRUE(restyle.location == -7 && selection.location == -7);
+
+    EXPECT_EQ(corvane_note_apply_results(note.get(), results.get(), &restyle, &selection), CORVANE_OK);
+    EXPECT_EQ(utf8(textOf(note)), "- one\n- two\n- three\n- \n");
+    EXPECT_TRUE(selection.location == 22 && selection.length == 0);
+    EXPECT_TRUE(restyle.location <= 19 && restyle.location + restyle.length == 23);
+    EXPECT_EQ(corvane_note_apply_results(note.get(), results.get(), nullptr, nullptr), CORVANE_OK);
+}
+
+/// A list whose ranges lie in the text, but not once the ones before them are applied.
+TEST(Capi, RangesAreCheckedInTheTextThatTheyAddress) {
+    corvane_results results({{{0, 9}, u"", {0, 0}}, {{4, 6}, u"", {4, 0}}});
+    const Note note = noteOf(u"0123456789");
+    corvane_range restyle{};
+    EXPECT_EQ(corvane_note_apply_results(note.get(), &results, &restyle, nullptr), CORVANE_ERROR_RANGE);
+    const corvane_results beyond({{{0, 0}, u"ab", {12, 1}}});
+    EXPECT_EQ(corvane_note_apply_results(note.get(), &beyond, &restyle, nullptr), CORVANE_ERROR_RANGE);
+    EXPECT_EQ(utf8(textOf(note)), "0123456789");
+    const corvane_results fitting({{{0, 10}, u"", {0, 0}}, {{0, 0}, u"ab", {2, 0}}});
+    EXPECT_EQ(corvane_note_apply_results(note.get(), &fitting, &restyle, nullptr), CORVANE_OK);
+    EXPECT_EQ(utf8(textOf(note)), "ab");
+}
+
+TEST(Capi, NoOpinionIsAnEmptyListThatChangesNothing) {
+    const Note note = noteOf(u"a\n");
+    const Results results = runCommand(note, CORVANE_COMMAND_DELETE_PREVIOUS, {0, 1});
+    EXPECT_EQ(show(results), "");
+    corvane_range restyle{};
+    corvane_range selection{};
+    EXPECT_EQ(corvane_note_apply_results(note.get(), results.get(), &restyle, &selection), CORVANE_OK);
+    EXPECT_TRUE(restyle.location == CORVANE_NOT_FOUND && restyle.length == 0);
+    EXPECT_TRUE(selection.location == CORVANE_NOT_FOUND && selection.length == 0);
+    EXPECT_EQ(utf8(textOf(note)), "a\n");
+}
+
+TEST(Capi, ResultsOutliveTheirNote) {
+    Note note = noteOf(u"a\n");
+    const corvane_argument code{CORVANE_BLOCK_CODE, nullptr, 0};
+    const Results results = runCommand(note, CORVANE_COMMAND_TOGGLE_BLOCK_STYLE, {0, 1}, &code);
+    const std::string before = show(results);
+    EXPECT_NE(before, "");
+    note.reset();
+    EXPECT_EQ(show(results), before);
 }
 
 // The tree, and snippets

@@ -99,6 +99,137 @@ BAD_USAGE = [
     (["type", "--every", "1.5"], "--every"),
     (["type", "--every", "x"], "--every"),
     (["type", "--every", "99999999999999999999"], "--every"),
+    (["op"], "NAME is missing; the names are indent, outdent, "),
+    (["op", "bold", "--range", "0,0"], "there is no bold; the names are indent, "),
+    (["op", "Indent", "--range", "0,0"], "there is no Indent"),
+    (["op", "indent"], "--range is required"),
+    (["op", "indent", "--range", "0,-1"], "--range"),
+    (["op", "indent", "--range", "0,0", "--selection", "1"], "--selection"),
+    (["op", "indent", "3", "note.md", "--range", "0,0"], "too many: note.md; the command is indent [FILE]"),
+    (["op", "toggleInlineStyle", "--range", "0,0"], "STYLE is missing behind toggleInlineStyle"),
+    (["op", "toggleInlineStyle", "note.md", "--range", "0,0"], "STYLE: note.md is not a number"),
+    (["op", "toggleInlineStyle", "-1", "--range", "0,0"], "STYLE: -1 is not a number"),
+    (["op", "toggleInlineStyle", "0x1", "--range", "0,0"], "STYLE: 0x1"),
+    (["op", "toggleBlockStyle", "99999999999999999999", "--range", "0,0"], "STYLE: 99999999999999999999"),
+    (["op", "toggleBlockStyle", "1", "a", "b", "--range", "0,0"], "the command is toggleBlockStyle STYLE [FILE]"),
+    (["correct"], "NAME is missing; the names are fencedCodeCorrectionIn, "),
+    (["correct", "indent", "--range", "0,0", "--text", "a"], "there is no indent; the names are fenced"),
+    (["correct", "calloutCorrectionIn", "--text", "a"], "--range is required"),
+    (["correct", "calloutCorrectionIn", "--range", "0,0"], "--text is required"),
+    (["correct", "calloutCorrectionIn", "--range", "0,0", "--text", "a\udcff"], "--text: invalid UTF-8 at byte offset 1"),
+    (["correct", "calloutCorrectionIn", "a", "b"], "b"),
+    (["keys"], "--script is required"),
+    (["keys", "-", "--script", "-"], "standard input"),
+    (["keys", "--script", "-", "--print", "text"], "--print"),
+]
+
+BAD_KEYS = [
+    ("entre", "there is no key entre; the keys are text:TEXT, paste:TEXT, select:OFFSET,LENGTH, enter, tab"),
+    ("Enter", "there is no key Enter"),
+    ("enter enter", "there is no key enter enter"),
+    ("enter:2", "there is no key enter:2"),
+    ("text", "the key is text:TEXT"),
+    ("select*2", "the key is select:OFFSET,LENGTH"),
+    ("left*", "how often"),
+    ("left*0", "how often"),
+    ("left*-1", "how often"),
+    ("left*10001", "how often"),
+    ("left*2x", "how often"),
+    ("text:a\\", "escape"),
+    ("text:\\x", "escape"),
+    ("text:\\ud83d", "escape"),
+    ("paste:\tb", "escape"),
+    ("select:", "two whole numbers"),
+    ("select:-1,0", "two whole numbers"),
+    ("select:0,1 ", "two whole numbers"),
+    ("select:5,0", "the range [5,0] reaches outside the text of 4 code units"),
+    ("select:4,1", "outside"),
+    ("select:9223372036854775807,9223372036854775807", "outside"),
+]
+
+# Drawn notes: what stands there, the keys, and what a person wants then. "‸" is the caret, "⟦…⟧" a selection.
+DRAWN_KEYS = [
+    # Text, as everywhere
+    ("‸", ['text:a\\tb \\"c"', "paste:\\r\\nd"], 'a\tb "c"\r\nd‸'),
+    ("a⟦b⟧c", ["text:x"], "ax‸c"),
+    ("a⟦b⟧c", ["paste:"], "a‸c"),
+    ("a⟦b⟧c", ["backspace"], "a‸c"),
+    ("a⟦b⟧c", ["delete"], "a‸c"),
+    ("a⟦b⟧c", ["enter"], "a\n‸c"),
+    ("a😀‸😀b", ["backspace", "delete"], "a‸b"),
+    ("a\r\n‸b", ["backspace"], "a‸b"),
+    ("a‸\r\nb", ["delete"], "a‸b"),
+    ("‸", ["backspace", "delete", "left", "right", "up", "down", "shift-tab"], "‸"),
+    ("a‸b", ["tab"], "a\t‸b"),
+    ("a‸b", ["shift-tab"], "a‸b"),
+    # Arrows
+    ("a⟦b⟧c", ["left"], "a‸bc"),
+    ("a⟦b⟧c", ["right"], "ab‸c"),
+    ("a😀\r\nb‸", ["left*2"], "a😀‸\r\nb"),
+    ("‸a😀\r\nb", ["right*3"], "a😀\r\n‸b"),
+    ("a😀c‸\n\nd\r\nefgh", ["down*3"], "a😀c\n\nd\r\nefg‸h"),
+    ("a😀cd\n\nd\r\nefg‸h", ["up*3"], "a😀c‸d\n\nd\r\nefgh"),
+    ("abc\nd‸\nef", ["up", "left", "down"], "abc\n‸d\nef"),
+    ("ab\ncd‸", ["down"], "ab\ncd‸"),
+    ("ab‸\ncd", ["up"], "‸ab\ncd"),
+    # Styles
+    ("‸", ["bold", "bold"], "‸"),
+    ("a ‸", ["bold", "text:b", "bold", "text: c"], "a **b** c‸"),
+    ("a ‸", ["bold", "text:b ", "italic", "text:c", "italic", "bold"], "a **b *c***‸"),
+    ("a ‸", ["code", "text:*b", "code"], "a `*b`‸"),
+    ("a ==b‸==", ["enter", "text:."], "a ==b==.‸"),
+    ("one tw‸o three", ["bold"], "one **tw‸o** three"),
+    ("one **tw‸o** three", ["bold"], "one tw‸o three"),
+    ("a ⟦b c⟧ d", ["strikethrough"], "a ~~⟦b c⟧~~ d"),
+    ("a ⟦b c⟧ d", ["strikethrough", "strikethrough"], "a ⟦b c⟧ d"),
+    ("⟦one\ntwo⟧", ["italic"], "⟦*one*\n*two*⟧"),
+    ("⟦one\ntwo⟧", ["italic", "italic"], "⟦one\ntwo⟧"),
+    # Blocks
+    ("# ti‸tle", ["heading-2"], "## ti‸tle"),
+    ("## ti‸tle", ["heading-2"], "ti‸tle"),
+    ("⟦a\nb⟧", ["bullets"], "⟦* a\n* b⟧"),
+    ("⟦a\nb⟧", ["quote", "quote"], "⟦a\nb⟧"),
+    ("a‸", ["tasks"], "- [ ] a‸"),
+    ("x\n⟦a\nb⟧\ny", ["fence"], "x\n```\n⟦a\nb⟧\n```\ny"),
+    ("x\n⟦a\nb⟧\ny", ["fence", "fence"], "x\n⟦a\nb⟧\ny"),
+    ("> a\n> ⟦b⟧\n", ["fence"], "> a\n> ```\n> ⟦b⟧\n> ```\n"),
+    ("a\n\n⟦b\nc⟧\n\nd", ["callout-tip", "callout-tip"], "a\n\n‸b\nc\n\nd"),
+    ("> [!NOTE] a‸", ["callout-tip"], "> [!TIP] a‸"),
+    # Enter
+    ("- a‸b", ["enter"], "- a\n- ‸b"),
+    ("- [x] a‸", ["enter"], "- [x] a\n- [ ] ‸"),
+    ("> a‸", ["enter", "text:b"], "> a\n> b‸"),
+    ("> a\n> ‸", ["enter"], "> a\n\n‸"),
+    ("> - a‸", ["enter", "enter", "enter"], "> - a\n\n‸"),
+    ("- ‸", ["enter"], "‸"),
+    ("- a\n  - b‸", ["enter*3", "text:c"], "- a\n  - b\n\nc‸"),
+    ("- a\r\n- b‸\r\n", ["enter", "text:c", "enter*2", "text:d"], "- a\r\n- b\n- c\n\nd‸\r\n"),
+    ("> - [x] a‸", ["enter", "text:b"], "> - [x] a\n> - [ ] b‸"),
+    ("> $$\n> a‸\n> $$", ["enter", "text:b"], "> $$\n> a\n> b‸\n> $$"),
+    ("- ```\n  a‸\n  ```", ["enter", "text:b"], "- ```\n  a\n  b‸\n  ```"),
+    ("| a |\n|---|\n| b |‸", ["enter", "text:c"], "| a |\n|---|\n| b |\nc‸"),
+    ("# ‸a", ["enter"], "\n# ‸a"),
+    ("```\na‸\n```\n", ["enter"], "```\na\n‸\n```\n"),
+    # Tab
+    ("- a\n- b‸", ["tab"], "- a\n  - b‸"),
+    ("1. a\n2. b‸", ["tab"], "1. a\n   1. b‸"),
+    ("- a\n  - b‸", ["shift-tab"], "- a\n- b‸"),
+    # Backspace and delete
+    ("## ‸a", ["backspace"], "‸a"),
+    ("- a\n- ‸b", ["backspace"], "- a\n‸b"),
+    ("> a\n> ‸b", ["backspace"], "> a‸b"),
+    ("| a |\n|---|\n‸| b |", ["backspace"], "| a |\n|---|‸\n| b |"),
+    ("‸## a", ["delete"], "‸# a"),
+    ("> a‸\n> b", ["delete"], "> a‸b"),
+    ("- a‸\n- b", ["delete"], "- a‸b"),
+    # Corrections
+    ("‸", ["text:```"], "```‸\n```"),
+    ("```‸\na\n```", ["text:`"], "````‸\na\n````"),
+    ("> [!TIP]‸", ["text:a"], "> [!TIP] a‸"),
+    ("> [!TIP]‸", ["enter", "text:a"], "> [!TIP]\n> a‸"),
+    ("- ‸", ["text: a"], "- a‸"),
+    ("‸", ["text:$$", "enter"], "$$\n‸\n$$"),
+    ("| a |\n|---|\n|‸|", ["text:b c"], "| a |\n|---|\n| b c‸ |"),
 ]
 
 
@@ -164,7 +295,7 @@ class Printing(CommandTest):
     def test_help(self):
         self.assertRegex(run("--version").stdout.decode(), r"\Acorvane \d+\.\d+\.\d+\n\Z")
         self.assertIn(b"edit", run("--help").stdout)
-        for name in ("html", "tree", "annotate", "show", "edit", "type"):
+        for name in ("html", "tree", "annotate", "show", "edit", "type", "op", "correct", "keys"):
             result = run(name, "--help")
             self.assertEqual((result.returncode, result.stderr), (0, b""))
             self.assertRegex(result.stdout.decode(), rf"Example:\n.*corvane {name}")
@@ -492,16 +623,163 @@ class Typing(CommandTest):
         self.assertIn(b"\rtyping 1 of 3", os.read(primary, 1000))
 
 
+def drawn(text, selection):
+    """A text with its selection, in UTF-16 code units, drawn in."""
+    units = text.encode("utf-16-le")
+    start, end = 2 * selection[0], 2 * sum(selection)
+    marks = ("⟦", "⟧") if end > start else ("‸", "")
+    return (units[:start].decode("utf-16-le") + marks[0] + units[start:end].decode("utf-16-le") + marks[1] +
+            units[end:].decode("utf-16-le"))
+
+
+def undrawn(drawing):
+    """The text of a drawing and its selection."""
+    places = [len(part.encode("utf-16-le")) // 2 for part in re.split("[‸⟦⟧]", drawing)]
+    return re.sub("[‸⟦⟧]", "", drawing), [places[0], places[1] if "⟦" in drawing else 0]
+
+
+class Commanding(CommandTest):
+    """op and correct."""
+
+    def results(self, *args, note=""):
+        result = run(*args, stdin=note.encode())
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        return json.loads(result.stdout)
+
+    def test_lists(self):
+        operations, corrections = (run(command, "--list").stdout.decode() for command in ("op", "correct"))
+        self.assertIn("\nindent\n", "\n" + operations)
+        self.assertRegex(operations, r"\ntoggleBlockStyle STYLE\n    STYLE is a number: .*\b8 tasks\b")
+        for name in re.findall(r"^\w+", operations, re.MULTILINE):
+            arguments = ["0"] * len(re.findall(rf"^{name}(.*)$", operations, re.MULTILINE)[0].split())
+            self.assertIsInstance(self.results("op", name, *arguments, "-", "--range", "0,0"), list)
+        for name in corrections.split():
+            self.assertIsInstance(self.results("correct", name, "--range", "0,0", "--text", "a"), list)
+
+    def test_one_result_stands_as_it_is_applied(self):
+        style = ["op", "toggleInlineStyle", "0", "--range"]
+        self.assertEqual(self.results(*style, "3,1", "--apply", note="😀 b c"), {
+            "text": "😀 **b** c", "selection": [5, 1], "redraw": [0, 10]})
+        last = self.results(*style, "3,1", note="😀 b c")[-1]
+        self.assertEqual(last["selection"], [5, 1])
+        self.assertEqual([*last], ["range", "text", "selection"])
+        self.assertEqual(self.results(*style, "3,1", "--selection", "0,0", note="😀 b c")[-1]["selection"], [0, 0])
+
+    def test_no_opinion(self):
+        args = ["op", "indent", "--range", "0,1"]
+        self.assertEqual(self.results(*args, note="a"), [])
+        self.assertEqual(self.results(*args, "--selection", "1,0", "--apply", note="a"), {
+            "text": "a", "selection": [1, 0], "redraw": None})
+
+    def test_the_file_stands_behind_the_arguments(self):
+        note = self.file("3", "a")
+        self.assertEqual(self.results("op", "toggleBlockStyle", "3", note, "--range", "0,1", "--apply")["text"], "#### a")
+        self.assertEqual(self.results("op", "--range", "0,0", "toggleBlockStyle", "--", "3", note)[0]["text"], "#### ")
+
+    def test_rules(self):
+        args = ["op", "toggleBlockStyle", "0", "--range", "0,0", "--apply"]
+        self.assertEqual(self.results(*args, note="#\n")["text"], "# #\n")
+        self.assertEqual(self.results(*args, "--rules", "commonmark", note="#\n")["text"], "\n")
+
+    def test_a_correction_sees_the_edit_before_it_is_made(self):
+        args = ["correct", "calloutCorrectionIn", "--range", "8,0"]
+        self.assertEqual(self.results(*args, "--text", "a", note="> [!TIP]"),
+                         [{"range": [8, 0], "text": " a", "selection": [10, 0]}])
+        self.assertEqual(self.results(*args, "--text= a", note="> [!TIP]"), [])
+        self.assertEqual(self.results(*args, "--text", "\n\"é😀", "--selection", "8,3", note="> [!TIP]"),
+                         [{"range": [8, 0], "text": " \n\"é😀", "selection": [9, 3]}])
+
+    def test_ranges_outside_the_text(self):
+        for outside in ("5,0", "4,1", "0,5", "9223372036854775807,9223372036854775807"):
+            for option in ("--range", "--selection"):
+                ranges = ["--range", "0,0", option, outside] if option == "--selection" else [option, outside]
+                with self.subTest(option=option, range=outside):
+                    parts = [f"{option}: {outside} reaches outside the text of 4 code units"]
+                    self.assert_refused(2, parts, "op", "indent", *ranges, stdin="a😀b".encode())
+        correct = ["correct", "calloutCorrectionIn", "--range", "1,2", "--text", "xyz", "--selection"]
+        self.assertEqual(self.results(*correct, "5,0", note="a😀b"), [])
+        self.assert_refused(2, ["6,0", "of 5 code units"], *correct, "6,0", stdin="a😀b".encode())
+
+
+class Keys(CommandTest):
+    def press(self, keys, *args, note=""):
+        """The objects that are printed."""
+        script = self.file("script.keys", "\n".join(keys))
+        result = run("keys", self.file("note.md", note), "--script", script, *args)
+        self.assertEqual((result.stderr.decode(), result.returncode), ("", 0))
+        return [json.loads(line) for line in result.stdout.decode().splitlines()]
+
+    def test_drawn_notes(self):
+        for before, keys, expected in DRAWN_KEYS:
+            text, selection = undrawn(before)
+            select = "select:{},{}".format(*selection)
+            with self.subTest(before=before, keys=keys):
+                state = self.press([select, *keys], "--check", note=text)[-1]
+                self.assertEqual(drawn(**state), expected)
+
+    def test_a_page(self):
+        for script in sorted((Path(__file__).parent / "keys").glob("*.keys")):
+            for rules in RULES:
+                result = run("keys", "--script", script, "--rules", rules, "--check")
+                with self.subTest(script=script.name, rules=rules):
+                    self.assertEqual((result.stderr.decode(), result.returncode), ("", 0))
+                    if rules == "extended":
+                        self.maxDiff = None
+                        self.assertEqual(json.loads(result.stdout)["text"], script.with_suffix(".md").read_text())
+
+    def test_every_key_in_every_place(self):
+        names = [name for name in run("keys", "--list").stdout.decode().split("\n") if name and ":" not in name]
+        self.assertGreater(len(names), 30)
+        length = len(WELCOME.read_text().encode("utf-16-le")) // 2
+        chooser = random.Random(1)
+        for rules in RULES:
+            keys = []
+            for _ in range(400):
+                start = chooser.randint(0, length // 2)
+                keys += [f"select:{start},{chooser.choice([0, 0, 1, 9])}", chooser.choice(names)]
+                keys += ["text:" + chooser.choice("a`$| *-")] * 3
+            with self.subTest(rules=rules):
+                self.press(keys, "--check", "--rules", rules, note=WELCOME.read_text())
+
+    def test_an_empty_note_is_the_start(self):
+        self.assert_prints('{"text":"a","selection":[1,0]}\n', "keys", "--script", "-", stdin=b"text:a")
+        self.assert_prints('{"text":"","selection":[0,0]}\n', "keys", "--script", "-")
+        script = self.file("s", "# nothing\r\n\n \t\n  text:b \r\n  left*2  \n")
+        self.assert_prints('{"text":"ab ","selection":[1,0]}\n', "keys", "-", "--script", script, stdin=b"a")
+
+    def test_trace(self):
+        lines = self.press(["text:ab", "", "left", "enter", "backspace"], "--trace")
+        self.assertEqual(lines[0], {
+            "line": 1, "key": "text:a", "by": "edit", "text": "a", "selection": [1, 0], "redraw": [0, 1]})
+        self.assertEqual([(line["line"], line["key"], line["by"], line["text"]) for line in lines[1:-1]], [
+            (1, "text:b", "edit", "ab"), (3, "left", None, "ab"), (4, "enter", "edit", "a\nb"),
+            (5, "backspace", "deletePrevious", "ab")])
+        self.assertIsNone(lines[2]["redraw"])
+        self.assertEqual(lines[-1], {"text": "ab", "selection": [1, 0]})
+        (typed, *_, last) = self.press(["text:a"], "--trace", note="> [!TIP]")
+        self.assertEqual((typed["by"], last["selection"]), ("calloutCorrectionIn", [10, 0]))
+
+
 class Refusing(CommandTest):
     def test_usage(self):
         for args, part in BAD_USAGE:
             with self.subTest(args=args):
                 self.assert_refused(2, [part], *args)
 
+    def test_key_scripts(self):
+        note = self.file("note.md", "a😀b")
+        for line, part in BAD_KEYS:
+            with self.subTest(line=line):
+                script = self.file("s.keys", "\n# a\nleft\n" + line + "\nright\n")
+                self.assert_refused(1, [f"{script}: line 4: ", part], "keys", note, "--script", script, "--trace")
+
     def test_files_that_cannot_be_read(self):
         empty = self.file("empty", "")
         missing = self.folder / "no\nsuch.md"
-        for command in (["html"], ["tree"], ["annotate"], ["show"], ["type"], ["edit", empty, "--script"], ["edit", "--script", empty]):
+        for command in (["html"], ["tree"], ["annotate"], ["show"], ["type"], ["edit", empty, "--script"], ["edit", "--script", empty],
+                        ["op", "toggleInlineStyle", "1", "--range", "0,0"],
+                        ["correct", "calloutCorrectionIn", "--range", "0,0", "--text", "a"], ["keys", "--script"],
+                        ["keys", "--script", empty]):
             with self.subTest(command=command):
                 self.assert_refused(1, ["no?such.md", "No such file"], *command, missing)
                 self.assert_refused(1, [str(self.folder), "directory"], *command, self.folder)

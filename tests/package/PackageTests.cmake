@@ -11,15 +11,15 @@ set_tests_properties(package.clean PROPERTIES FIXTURES_SETUP clean_package_folde
 set_tests_properties(
     package.install PROPERTIES FIXTURES_REQUIRED clean_package_folder FIXTURES_SETUP installed_package)
 
-# Configures, builds and runs the project in a folder with the given cache variables.
-function(corvane_package_test name folder output)
+# Configures and builds the project in a folder with the given cache variables, and runs a command there.
+function(corvane_package_test name folder command output)
     list(TRANSFORM ARGN PREPEND -D)
     add_test(
         NAME package.${name}
         COMMAND
             ${CMAKE_CTEST_COMMAND} --build-and-test ${CMAKE_CURRENT_SOURCE_DIR}/package/${folder} ${work}/${name}
             --build-generator ${CMAKE_GENERATOR} --build-options -DCORVANE_README=${PROJECT_SOURCE_DIR}/README.md
-            -DCMAKE_PREFIX_PATH=${prefix} ${ARGN} --test-command readme_example)
+            -DCMAKE_PREFIX_PATH=${prefix} ${ARGN} --test-command ${command})
     set_tests_properties(
         package.${name}
         PROPERTIES FIXTURES_REQUIRED installed_package
@@ -30,11 +30,11 @@ endfunction()
 
 function(corvane_cpp_package_test name)
     corvane_package_test(
-        ${name} . "restyle 24 code units from 9\nstrong: bold" CMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} ${ARGN})
+        ${name} . "${CMAKE_CTEST_COMMAND};--output-on-failure" "100% tests passed" CMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} ${ARGN})
 endfunction()
 
 function(corvane_c_package_test name)
-    corvane_package_test(${name} c "CVNDirection at 0\nCVNStrong at 5\n" ${ARGN})
+    corvane_package_test(${name} c readme_example "CVNDirection at 0\nCVNStrong at 5\n" ${ARGN})
 endfunction()
 
 corvane_cpp_package_test(

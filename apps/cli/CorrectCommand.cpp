@@ -1,0 +1,32 @@
+#include "Commands.h"
+#include "Note.h"
+#include "Ranges.h"
+#include "Results.h"
+
+namespace Cli {
+
+namespace {
+
+std::string listOfCorrections() {
+    std::string list;
+    for (const CVNTextCorrection& correction : CVNTextCorrection::all())
+        list += std::string(correction.name) + "\n";
+    return list;
+}
+
+} // namespace
+
+Outcome correct(const Options& options) {
+    if (options.list) return {listOfCorrections()};
+    const auto& correction = requiredRow<CVNTextCorrection>(options);
+    const CVNRange range = required("--range", options.range);
+    const std::u16string text = textOfArgument("--text", required("--text", options.text));
+    const auto length = static_cast<std::int64_t>(text.size());
+    const CVNAST note = readNote(options);
+    requireInText("--range", range, note.markdownLength());
+    const CVNRange selection = options.selection.value_or(CVNRange{range.location + length, 0});
+    requireInText("--selection", selection, note.markdownLength() - range.length + length);
+    return {jsonText(correction.run(note, range, text, selection)) + "\n"};
+}
+
+} // namespace Cli

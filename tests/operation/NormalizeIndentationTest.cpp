@@ -1,0 +1,145 @@
+#include "corvane/operation/OperationNormalizeIndentation.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/support/Caret.h"
+#include "tests/support/RandomNote.h"
+#include "tests/support/TreeCheck.h"
+
+namespace CVN::Operation {
+namespace {
+
+using Ondo::RuleConfig;
+using Ondo::Test::expectEach;
+
+const NormalizeIndentation withSpaces(IndentStyle::Spaces);
+const NormalizeIndentation withTabs(IndentStyle::Tabs);
+
+TEST(NormalizeIndentation, LeavesWhatIsInPlace) {
+    expectEach(withSpaces, {
+                               {u"⟦⟧", u""},
+                               {u"⟦  a\n   b\n⟧", u""},
+                               {u"⟦   # a\n  ***\n⟧", u""},
+                               {u"⟦  | a |\n|---|\n⟧", u""},
+                               {u"⟦- a\n  b\n  1. c\n     d\n\n  e⟧", u""},
+                               {u"⟦> a\n>   b\n> > c⟧", u""},
+                               {u"⟦-   a\n    b⟧", u""},
+                               {u"⟦- [ ] a\n  b⟧", u""},
+                               {u"⟦-\ta\n    b⟧", u""},
+                           });
+}
+
+TEST(NormalizeIndentation, OfItems) {
+    expectEach(withSpaces, {
+                               {u"- item‸\ntext", u"- item‸\n  text"},
+                               {u"10. item\n      text‸", u"10. item\n    text‸"},
+                               {u"-   a\nb‸\n\n     c", u"-   a\n    b‸\n\n    c"},
+                               {u" - ‸a\n  - b\n     - c", u"- ‸a\n- b\n  - c"},
+                               {u"- a\n\t- b\n\t\tc‸", u"- a\n  - b\n    c‸"},
+                               {u"- [ ] a\r\n   - [x] ‸b\r\n", u"- [ ] a\r\n  - [x] ‸b\r\n"},
+                               {u"- a\n    # b\n   ***‸", u"- a\n  # b\n  ***‸"},
+                               {u"  -\t😀\n    - ‸b", u"- 😀\n  - ‸b"},
+                               // Blank lines hold nothing of the item.
+                               {u"- a\n  \n  b‸", u"- a\n\n  b‸"},
+                               {u"- a\n  ‸\n\nb", u"- a\n‸\n\nb"},
+                               {u"- a‸\r \n- b", u""},
+                               {u"- a\n   - \n‸", u"- a\n  - \n‸"},
+                               // A list that stands further in holds off the text behind it.
+                               {u"  - a‸\n\n  b", u""},
+                               {u"  - a‸\n\nb", u"- a‸\n\nb"},
+                               // Blanks that keep a text from being a block.
+                               {u"- a\n      # b‸", u""},
+                               {u"- a\n      b‸", u"- a\n  b‸"},
+                           });
+    // There the blanks are text.
+    expectEach(withSpaces, {{u"- a\n   b‸", u""}, {u"- a\n\tb‸", u"- a\n  b‸"}}, RuleConfig::Simplified);
+}
+
+TEST(NormalizeIndentation, OfQuotes) {
+    expectEach(withSpaces, {
+                               {u">text‸", u"> text‸"},
+                               {u">‸text", u""},
+                               {u">a\n>‸b", u"> a\n>‸b"},
+                               {u">a\n>⟦b⟧", u"> a\n> ⟦b⟧"},
+                               {u"  >a\nb‸", u"> a\n> b‸"},
+                               {u">>a\n  >  > b‸\n>c", u"> > a\n> > b‸\n> > c"},
+                               {u"> a‸\n===", u""},
+                               {u"- >a\n  >\n   > - b\n   >  c‸", u"- > a\n  > \n  > - b\n  >   c‸"},
+                               {u">1. a\n>\n>   b‸", u"> 1. a\n> \n>   b‸"},
+                               {u">\ta‸", u">   a‸"},
+                               {u">[!note] a‸", u"> [!note] a‸"},
+                           });
+}
+
+TEST(NormalizeIndentation, OfCode) {
+    expectEach(withSpaces, {
+                               {u"\ta‸\n      b", u"    a‸\n      b"},
+                               {u"- a\n\n\t\tb‸", u"- a\n\n        b‸"},
+                               {u"  - a\n\n        b‸", u"- a\n\n      b‸"},
+                               {u"- a\n    ```\n    b‸\n      c\n   ```", u"- a\n  ```\n  b‸\n    c\n  ```"},
+                               {u"- ```\n  a\n\n  b‸\n  ```", u"- ```\n  a\n  \n  b‸\n  ```"},
+                               {u">```\n>  a‸\n>```", u"> ```\n>   a‸\n> ```"},
+                               {u"- $$\n  a‸\n   $$", u"- $$\n  a‸\n  $$"},
+                               // The fence keeps its place where it tells content from a fence.
+                               {u"- a\n\n    ```\n      ```‸\n  ```", u""},
+                           });
+}
+
+TEST(NormalizeIndentation, WithTabs) {
+    expectEach(withTabs, {
+                             {u"- a\n  b‸\n  - c\n    d", u"- a\n\tb‸\n\t- c\n\t\td"},
+                             {u"    a‸\n      b", u"\ta‸\n\t  b"},
+                             {u"-   a\n\n        b‸", u"-   a\n\n\t    b‸"},
+                             {u"100. a\n     b‸", u""},
+                             {u"> - a\n>   b‸", u"> - a\n> \tb‸"},
+                             {u"> 1. a\n>    b‸", u""},
+                         });
+}
+
+TEST(NormalizeIndentation, TakesWholeContainersThatTheRangeTouches) {
+    const std::u16string note = u" - a\n - b\n\n---\n\n>c\n";
+    const struct {
+        std::int64_t offset;
+        std::int64_t length;
+        std::u16string expected;
+    } cases[] = {
+        {0, 0, u"- a\n- b\n\n---\n\n>c\n"},
+        {7, 1, u"- a\n- b\n\n---\n\n>c\n"},
+        {12, 1, note},
+        {7, 9, u"- a\n- b\n\n---\n\n> c\n"},
+    };
+    for (const auto& c : cases) {
+        const Ondo::Tree tree(note);
+        const auto results = withSpaces.run(tree, c.offset, c.length, 0, 0);
+        EXPECT_EQ(Ondo::Test::applied({note, {0, 0}}, results).text, c.expected) << c.offset;
+    }
+}
+
+/// What lines belong to and say, without the blanks between words.
+std::string meaning(std::u16string_view note, RuleConfig::RuleSet rules) {
+    std::string html = Ondo::Test::html(note, rules);
+    std::erase_if(html, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
+    return html;
+}
+
+TEST(NormalizeIndentation, KeepsTheMeaningOfRandomNotesAndIsDoneAtOnce) {
+    for (std::uint64_t seed = 0; seed < 1500; ++seed) {
+        Ondo::Test::RandomNote random(seed);
+        const RuleConfig::RuleSet rules = Ondo::Test::allRuleSets[random.below(3)];
+        const NormalizeIndentation& operation = random.below(2) == 0 ? withSpaces : withTabs;
+        const std::u16string note = random.note(10);
+        const auto normalized = [&](const std::u16string& text) {
+            const Ondo::Tree tree(text, rules);
+            const auto results = operation.run(tree, 0, tree.length(), 0, 0);
+            return Ondo::Test::applied({text, {0, 0}}, results).text;
+        };
+        const std::u16string once = normalized(note);
+        ASSERT_EQ(meaning(once, rules), meaning(note, rules)) << seed << ": " << Ondo::Test::visible(note);
+        ASSERT_EQ(Ondo::Test::visible(normalized(once)), Ondo::Test::visible(once)) << seed;
+    }
+}
+
+} // namespace
+} // namespace CVN::Operation
