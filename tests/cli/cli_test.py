@@ -686,8 +686,8 @@ class Commanding(CommandTest):
         self.assertEqual(self.results(*args, "--text", "a", note="> [!TIP]"),
                          [{"range": [8, 0], "text": " a", "selection": [10, 0]}])
         self.assertEqual(self.results(*args, "--text= a", note="> [!TIP]"), [])
-        self.assertEqual(self.results(*args, "--text", "\n\"é😀", "--selection", "8,3", note="> [!TIP]"),
-                         [{"range": [8, 0], "text": " \n\"é😀", "selection": [9, 3]}])
+        self.assertEqual(self.results(*args, "--text", "\"é\n😀", "--selection", "8,3", note="> [!TIP]"),
+                         [{"range": [8, 0], "text": " \"é\n😀", "selection": [9, 3]}])
 
     def test_ranges_outside_the_text(self):
         for outside in ("5,0", "4,1", "0,5", "9223372036854775807,9223372036854775807"):
