@@ -200,17 +200,6 @@ std::int64_t behindMetadata(const Tree& tree, std::int64_t offset) {
 
 } // namespace
 
-void toNextLeaf(Node::Iterator& leaf) {
-    leaf.nextInSequenceSkippingSubtree();
-    toFirstLeaf(leaf);
-}
-
-void toPreviousLeaf(Node::Iterator& leaf) {
-    do
-        leaf.previousInSequence();
-    while (leaf.node && leaf->firstChild);
-}
-
 bool trimSpan(const Tree& tree, InlineSpan& span) {
     while (span.offset < span.end) {
         if (isAroundText(span.first.node)) {

@@ -30,10 +30,6 @@ bool trimSpan(const Ondo::Tree& tree, InlineSpan& span);
 /// nothing is left.
 bool uncrossSpan(const Ondo::Tree& tree, InlineSpan& span, InlineToggles style);
 
-/// From a leaf to the next and the previous one.
-void toNextLeaf(Ondo::Node::Iterator& leaf);
-void toPreviousLeaf(Ondo::Node::Iterator& leaf);
-
 /// Over whitespace, and over what a line begins and ends with in the middle of a construct.
 std::int64_t behindBlanks(const Ondo::Tree& tree, std::int64_t offset);
 std::int64_t beforeBlanks(const Ondo::Tree& tree, std::int64_t offset);

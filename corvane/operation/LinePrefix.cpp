@@ -24,11 +24,6 @@ const Node* deepestFirstBlock(const Node* node) {
 }
 
 /// To the next leaf.
-void toNextLeaf(Node::Iterator& at) {
-    at.nextInSequence();
-    toFirstLeaf(at);
-}
-
 std::vector<std::int64_t> columnsOf(std::u16string_view text) {
     std::vector<std::int64_t> columns{0};
     for (const char16_t unit : text)

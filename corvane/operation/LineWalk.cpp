@@ -25,6 +25,17 @@ void toFirstLeaf(Node::Iterator& at) {
         at.firstChild();
 }
 
+void toNextLeaf(Node::Iterator& leaf) {
+    leaf.nextInSequence();
+    toFirstLeaf(leaf);
+}
+
+void toPreviousLeaf(Node::Iterator& leaf) {
+    do
+        leaf.previousInSequence();
+    while (leaf.node && leaf->firstChild);
+}
+
 bool isLineStart(const Ondo::Tree& tree, std::int64_t offset) {
     const char16_t before = unitAt(tree, offset - 1);
     if (offset == 0 || before == u'\n') return true;

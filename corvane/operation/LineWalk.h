@@ -24,6 +24,10 @@ void toPreviousLine(Ondo::Node::Iterator& line);
 /// From a node down to the leaf that starts where it does.
 void toFirstLeaf(Ondo::Node::Iterator& at);
 
+/// From a leaf to the next one and the one before; to none when there isn't one.
+void toNextLeaf(Ondo::Node::Iterator& leaf);
+void toPreviousLeaf(Ondo::Node::Iterator& leaf);
+
 /// Whether a line starts at the offset.
 bool isLineStart(const Ondo::Tree& tree, std::int64_t offset);
 
@@ -44,6 +48,9 @@ inline bool isOfType(const Ondo::Node* node, std::uint16_t type) {
 }
 inline bool isBlank(const Ondo::Node* node) {
     return isOfType(node, Ondo::ONDO_BLANK_LINE_NODE);
+}
+inline bool isLineEnding(const Ondo::Node* node) {
+    return isOfType(node, Ondo::ONDO_LINE_ENDING_NODE);
 }
 inline bool isListItem(const Ondo::Node* node) {
     return isOfType(node, Ondo::ONDO_LIST_ITEM_NODE);

@@ -149,16 +149,6 @@ std::u16string tabbedPrefix(const Node* frame, bool isLazy) {
     return prefix;
 }
 
-void toPreviousLeaf(Node::Iterator& at) {
-    at.previousInSequence();
-    while (at.node && at->firstChild && at->category != Node::Category::Document)
-        at.previousInSequence();
-}
-
-bool isLineEnding(const Node* node) {
-    return isOfType(node, Ondo::ONDO_LINE_ENDING_NODE);
-}
-
 bool endsInLineEnding(Node::Iterator at) {
     at.lastNodeOfSubtree();
     return isLineEnding(at.node);
@@ -234,6 +224,12 @@ Node::Iterator nearestMarker(const Node::Iterator& node, const Node::Iterator& c
     return at.node == container.node ? Node::Iterator() : at;
 }
 
+/// A marker can have the blank that it needs as its last unit, or a tab behind it, or be all that the line
+/// has.
+bool hasBlank(std::u16string_view marker) {
+    return marker.back() == u' ' || marker.back() == u'\t';
+}
+
 std::u16string blanksForMarker(const Node::Iterator& marker, IndentStyle style) {
     if (style == IndentStyle::Tabs) return u"\t";
     return std::u16string(static_cast<std::size_t>(widthOfMarker(marker)), u' ');
@@ -244,8 +240,18 @@ std::u16string blanksForMarker(const Node::Iterator& marker, IndentStyle style) 
 std::u16string repeatedMarker(const Ondo::Tree& tree, const Node::Iterator& marker) {
     std::u16string text(textOf(tree, marker));
     const bool isItem = isOfType(marker.node, Ondo::ONDO_LIST_ITEM_MARKER_NODE);
-    if (isItem && text.back() != u' ' && text.back() != u'\t') text += u' ';
+    if (isItem && !hasBlank(text)) text += u' ';
     return text;
+}
+
+/// The blanks to the content behind a marker, for a line that goes on with it.
+std::u16string blanksToContent(const Ondo::Tree& tree, const Node::Iterator& marker, IndentStyle style) {
+    Node::Iterator behind = marker;
+    behind.nextInSequence();
+    const bool needsBlank = style == IndentStyle::Spaces && !hasBlank(textOf(tree, marker));
+    std::u16string blanks = blanksForMarker(marker, style);
+    if (needsBlank && isSpace(behind.node)) blanks += textOf(tree, behind);
+    return blanks;
 }
 
 /// The line of a marker up to the marker, for another line: the markers of the items around it become blanks,
@@ -257,11 +263,16 @@ std::u16string prefixOf(const Ondo::Tree& tree, const Node::Iterator& marker, In
     std::u16string prefix;
     for (;; at.nextInSequence()) {
         const bool isLast = at.node == marker.node;
-        if (at->type == Ondo::ONDO_LIST_ITEM_MARKER_NODE && !(isLast && repeatsItem))
+        const bool isItem = at->type == Ondo::ONDO_LIST_ITEM_MARKER_NODE;
+        if (isLast) {
+            const bool isRepeated = repeatsItem || !isItem;
+            prefix += isRepeated ? repeatedMarker(tree, at) : blanksToContent(tree, at, style);
+            return withUncheckedTasks(std::move(prefix));
+        }
+        if (isItem)
             prefix += blanksForMarker(at, style);
         else if (!at->firstChild)
-            prefix += isLast ? repeatedMarker(tree, at) : std::u16string(textOf(tree, at));
-        if (isLast) return withUncheckedTasks(std::move(prefix));
+            prefix += textOf(tree, at);
     }
 }
 

@@ -66,10 +66,6 @@ Node::Iterator lineOf(Node::Iterator at) {
     return at;
 }
 
-bool isLineEnding(const Node* node) {
-    return isOfType(node, Ondo::ONDO_LINE_ENDING_NODE);
-}
-
 /// In front of the line ending, or at the end of the text.
 std::int64_t endOfText(Node::Iterator at) {
     at.endOfLine();

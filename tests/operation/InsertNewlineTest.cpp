@@ -111,6 +111,8 @@ TEST(InsertNewline, EndsWhatIsEmpty) {
         {u"- > a\n  > ‸", u"- > a\n- ‸"},
         {u"- > - a\n  > - ‸", u"- > - a\n  > ‸"},
         {u"- > - ‸", u"- > ‸"},
+        {u"> > - a\n> > ‸\n> > - b", u"> > - a\n> ‸\n> > - b"}, // a line of the inner quote already
+        {u"- > - a\n  > ‸\n  > - b", u"- > - a\n- ‸\n  > - b"},
     };
     expectEach(returnKey, oneLevel);
     expectEach(returnKey, oneLevel, RuleConfig::Simplified);
@@ -157,6 +159,8 @@ TEST(InsertNewline, KeepsCodeAndMathInTheirContainer) {
         {u"- $$\n  x‸\n  $$", u"- $$\n  x\n  ‸\n  $$"},
         {u"- ```\n  ⟦a⟧b\n  ```", u"- ```\n  \n  ‸b\n  ```"},
         {u"- ```\n‸\n  ```", u""},
+        {u"-\t```‸\n\t```", u"-\t```\n \t‸\n\t```"},
+        {u"- [ ] - ```‸", u"- [ ] - ```\n        ‸"}, // the box counts for an item behind it
         // a held back fence opens, and closes by itself
         {u"- a\n- \\$$‸", u"- a\n- $$\n  ‸\n  $$"},
         {u"> - \\$$‸\n> - b", u"> - $$\n>   ‸\n>   $$\n> - b"},
@@ -284,6 +288,7 @@ TEST(InsertNewline, SecondaryRowStaysInTheItemWithoutAMarker) {
         {u"> [!note] x‸", u"> [!note] x\n> ‸"},
         {u"> ```\n>   a‸\n> ```", u"> ```\n>   a\n> ‸\n> ```"},
         {u"> - ⟦a⟧b", u"> - \n>   ‸b"},
+        {u"- ```\n\ta‸", u"- ```\n\ta\n\t‸"},
         {u"-‸ a", u"-\n‸ a"}, // never wider than what stands in front
         {u"‸- a", u"\n‸- a"},
         {u"- a\n‸", u"- a\n\n‸"},
