@@ -88,12 +88,12 @@ const Node* outermostQuote(const Node* node) {
     return quote;
 }
 
-/// The items around a line and its own, but one.
-std::int64_t listDepth(const Node* node) {
+/// How many items a line begins in.
+std::int64_t listDepth(const Line& line) {
     std::int64_t items = 0;
-    for (; node; node = node->parent)
+    for (const Node* node = FirstBlock(line).node; node; node = node->parent)
         if (isListItem(node)) ++items;
-    return std::max<std::int64_t>(items - 1, 0);
+    return items;
 }
 
 bool isOfListType(const Node* node, BlockToggles style) {
@@ -174,7 +174,6 @@ public:
 
     void replace(const Range& replaced, std::u16string text) {
         const auto size = static_cast<std::int64_t>(text.size());
-        if (replaced.length == 0 && size == 0) return;
         if (replaced.offset == range_.offset && replaced.length == 0) markerLength_ = size;
         if (selection_.length != 0 || caret_ != replaced.offset)
             return Result::addToList(results_, replaced.offset, replaced.length, std::move(text),
@@ -183,9 +182,10 @@ public:
         results_.emplace_back(replaced.offset, replaced.length, std::move(text), caret_, 0);
     }
 
-    /// A selection from the start of a line takes in the marker that the line got.
+    /// What goes in at the start of the range is selected along with the text. A selection from elsewhere
+    /// stays what it is.
     void selectMarker() {
-        if (range_.length == 0 || selection_.length == 0 || results_.empty()) return;
+        if (range_.length == 0 || results_.empty()) return;
         Result& last = results_.back();
         if (last.selectionOffset != range_.offset + markerLength_) return;
         last.selectionOffset -= markerLength_;
@@ -198,7 +198,7 @@ private:
     Range range_;
     Range selection_;
     std::int64_t caret_;
-    std::int64_t markerLength_ = 0; ///< of the marker that went in where the range starts
+    std::int64_t markerLength_ = 0; ///< of what went in where the range starts
     std::vector<Result> results_;
 };
 
@@ -215,7 +215,8 @@ std::vector<Result> ToggleBlockStyle::run(const Ondo::Tree& tree, std::int64_t o
                                     selectionLength);
     if (isOnEmptyLastLine(tree, {offset, length})) {
         std::vector<Result> results;
-        if (isInUnclosedBlock(leafAt(tree, offset).node)) return results;
+        const bool isQuote = style_ == BlockToggles::BlockQuote;
+        if (!isQuote && isInUnclosedBlock(leafAt(tree, offset).node)) return results;
         Result::addToList(results, offset, 0, lineMarkerString({}, {}), selectionOffset, selectionLength);
         return results;
     }
@@ -246,7 +247,7 @@ std::vector<Result> ToggleBlockStyle::changedLines(const Ondo::Tree& tree, const
         if (direction == Direction::Add && isSameTypeAsOperation(line)) continue;
         changes.replace(replaceRange(line), replacement(tree, line, first, direction));
     }
-    if (direction == Direction::Add) changes.selectMarker();
+    changes.selectMarker();
     return changes.take();
 }
 
@@ -281,7 +282,7 @@ std::u16string ToggleBlockStyle::lineMarkerString(const Line& line, const Line& 
     const std::size_t style = std::min(static_cast<std::size_t>(style_), std::size(lineMarkers));
     std::u16string marker(style < std::size(lineMarkers) ? lineMarkers[style] : u"> ");
     if (style_ != BlockToggles::OrderedList || !line.node || !firstLine.node) return marker;
-    const std::int64_t levels = listDepth(line.node) - listDepth(firstLine.node);
+    const std::int64_t levels = listDepth(line) - listDepth(firstLine);
     return marker.insert(0, static_cast<std::size_t>(std::max<std::int64_t>(levels, 0)), u' ');
 }
 

@@ -205,14 +205,10 @@ bool beginsQuote(const Ondo::Tree& tree, std::int64_t offset) {
 std::vector<Result> quotedLines(const Ondo::Tree& tree, const Node::Iterator& first,
                                 const Node::Iterator& last, const Label& label, const Range& selection) {
     std::vector<Result> results;
-    Range current = selection;
-    if (!isBlockQuote(last.node) && beginsQuote(tree, endOf(last))) {
-        const std::u16string line(emptyLineAt(tree, endOf(last)));
-        Result::addToList(results, endOf(last), 0, line, selection.offset, selection.length);
-        current = {results.back().selectionOffset, results.back().selectionLength};
-    }
+    if (!isBlockQuote(last.node) && beginsQuote(tree, endOf(last)))
+        results.emplace_back(endOf(last), 0, std::u16string(emptyLineAt(tree, endOf(last))), 0, 0);
     std::vector<Result> lines =
-        changedQuoteLines(tree, linesBetween(first, last), current, ToggleBlockStyle::Direction::Add);
+        changedQuoteLines(tree, linesBetween(first, last), selection, ToggleBlockStyle::Direction::Add);
     if (lines.empty()) return {};
     std::move(lines.begin(), lines.end(), std::back_inserter(results));
 

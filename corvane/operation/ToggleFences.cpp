@@ -212,12 +212,12 @@ std::vector<Result> fenced(const Lines& lines, std::int64_t opening, const std::
                            const std::u16string& fence, const std::u16string& lineBreak,
                            const Range& selection) {
     const Carrier carrier{lines.start, opening, lines.end, lines.behind};
-    const Range first = carrier.range(selection, fence);
-    const Range both = carrier.range(selection, lineBreak + fence);
+    const Range carried = carrier.range(selection, lineBreak + fence);
     std::vector<Result> results;
-    results.emplace_back(lines.end, 0, fence, first.offset, first.length);
-    results.emplace_back(lines.end, 0, lineBreak, both.offset, both.length);
-    Result::addToList(results, opening, 0, lineBreak, 0, 0);
+    results.emplace_back(lines.end, 0, fence, selection.offset, selection.length);
+    results.emplace_back(lines.end, 0, lineBreak, selection.offset, selection.length);
+    Result& first = results.emplace_back(opening, 0, lineBreak, carried.offset, carried.length);
+    first.offsetSelection();
     Result::addToList(results, opening, 0, openingFence, 0, 0);
     return results;
 }
@@ -278,12 +278,12 @@ std::vector<Result> toggledFences(const Ondo::Tree& tree, BlockToggles style, co
     Node::Iterator first = leafAt(tree, range.offset);
     const Node::Iterator last = range.length == 0 ? first : leafAt(tree, range.end() - 1);
     const Node* const block = selfOrAncestor(first.node, kind.block);
-    const bool isOnEmptyLine = range.offset == tree.length() && isLineStart(tree, range.offset);
-    if (isOnEmptyLine && !isInUnclosedBlock(first.node)) return fencedEmptyLine(tree, kind, selection);
     if (block && block == selfOrAncestor(last.node, kind.block)) {
         toAncestor(first, block);
         return withoutFences(first, kind, selection);
     }
+    const bool isOnEmptyLine = range.offset == tree.length() && isLineStart(tree, range.offset);
+    if (isOnEmptyLine && !isInUnclosedBlock(first.node)) return fencedEmptyLine(tree, kind, selection);
     if (isOnEmptyLine || isRefusedAt(first.node, kind) || isRefusedAt(last.node, kind)) return {};
     const Lines lines = linesFrom(first, last);
     if (cutsFences(first, lines) || cutsFences(last, lines)) return {};

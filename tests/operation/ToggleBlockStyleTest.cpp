@@ -78,7 +78,7 @@ TEST(ToggleBlockStyle, Lists) {
                    {u"7. a‸", u"a‸"},
                    {u"7) a‸", u"1. a‸"},
                    {u"⟦a\nb⟧", u"⟦1. a\n1. b⟧"},
-                   {u"⟦a\n- b⟧", u"⟦1. a\n1. b⟧"},
+                   {u"⟦a\n- b⟧", u"⟦1. a\n 1. b⟧"},
                    // Deeper items move along with their parents.
                    {u"⟦- a\n  - b\n    - c⟧\n", u"⟦1. a\n   1. b\n      1. c⟧\n"},
                    {u"⟦> - a\n>   - b⟧", u"⟦> 1. a\n>    1. b⟧"},

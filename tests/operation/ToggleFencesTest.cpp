@@ -86,6 +86,7 @@ TEST(ToggleFences, AreTakenAway) {
                          {u"```js\na‸\nb\n```\nc", u"a‸\nb\nc"},
                          {u"‸```\na\n```\n", u"‸a\n"},
                          {u"```\na\n```‸", u"a\n‸"},
+                         {u"```\na\n```\n‸", u"a\n‸"}, // where there is no node, the last one counts
                          {u"⟦```\na\n```\n⟧", u"⟦a\n⟧"},
                          {u"~~~\na‸\n~~~\n", u"a‸\n"},
                          {u"```\na‸", u"a‸"},
@@ -115,7 +116,6 @@ TEST(ToggleFences, StayOutOfOtherBlocks) {
                          {u"$$\na\n‸", u""},
                          // An empty line below a block is not in it.
                          {u"| a |\n|---|\n‸", u"| a |\n|---|\n```\n‸\n```"},
-                         {u"```\na\n```\n‸", u"```\na\n```\n```\n‸\n```"},
                      });
     // Blocks that the lines would cut in two
     expectEach(code, {
