@@ -1,8 +1,14 @@
 #include "corvane/operation/IndentInfo.h"
 
+#include <algorithm>
+
+#include "corvane/block/Fence.h"
+#include "corvane/block/HtmlBlock.h"
 #include "corvane/block/List.h"
 #include "corvane/operation/BlockStructure.h"
+#include "corvane/scan/HtmlSyntax.h"
 #include "corvane/scan/Lines.h"
+#include "corvane/scan/Util.h"
 
 namespace CVN::Operation {
 
@@ -86,6 +92,41 @@ std::int64_t contentColumn(const Ondo::Tree& tree, std::int64_t lineStart, const
     return column - nearest >= codeIndentation ? nearest : column;
 }
 
+/// A start and the end that such a block of HTML goes on to over blank lines, in lower case. All others end
+/// at a blank line.
+struct HtmlEnd {
+    std::u16string_view start;
+    std::u16string_view end;
+};
+constexpr HtmlEnd htmlEnds[] = {{u"<pre", u"</pre>"},     {u"<script", u"</script>"},
+                                {u"<style", u"</style>"}, {u"<textarea", u"</textarea>"},
+                                {u"<!--", u"-->"},        {u"<?", u"?>"},
+                                {u"<![cdata[", u"]]>"},   {u"<!", u">"}};
+
+bool startsWith(std::u16string_view html, std::u16string_view start) {
+    if (!html.starts_with(start)) return false;
+    const bool isName = Ondo::HtmlSyntax::isLetter(start.back());
+    return !isName || html.size() == start.size() || !Ondo::HtmlSyntax::isLetterOrDigit(html[start.size()]);
+}
+
+/// Whether a block of HTML without a blank line behind it lacks its end, which would be on its last line.
+bool isOpenHtml(std::u16string_view html) {
+    html.remove_prefix(std::min(html.find(u'<'), html.size()));
+    constexpr std::size_t longestStart = 10;
+    const std::u16string start = Ondo::Util::downcaseAscii(html.substr(0, longestStart));
+    while (!html.empty() && (html.back() == u'\n' || html.back() == u'\r'))
+        html.remove_suffix(1);
+    const std::u16string last = Ondo::Util::downcaseAscii(html.substr(html.find_last_of(u"\n\r") + 1));
+    for (const HtmlEnd& row : htmlEnds)
+        if (startsWith(start, row.start)) return last.find(row.end) == std::u16string::npos;
+    return true;
+}
+
+/// Blocks that hold together: their lines move as one.
+bool isUndivided(const Node* block) {
+    return block->category > Node::Category::ContainerBlock && block->type != Ondo::ONDO_PARAGRAPH_NODE;
+}
+
 bool isEmptyWithGap(const Node* item) {
     return isEmptyItem(item) && item->lineCount > 1;
 }
@@ -135,6 +176,16 @@ Node::Iterator itemStartingOn(Node::Iterator line) {
     while (line.node && !isListItem(line.node))
         line.firstChild();
     return line;
+}
+
+bool takesWhatFollows(const Node* item) {
+    const Node* const last = item->lastChild;
+    if (isOfType(last, Ondo::ONDO_HTML_BLOCK_NODE))
+        return isOpenHtml(static_cast<const Ondo::Block::HtmlBlockNode*>(last)->html);
+    return Ondo::Block::isOpenFence(last, Ondo::ONDO_FENCED_CODE_NODE,
+                                    Ondo::ONDO_FENCED_CODE_CLOSE_MARKER_NODE) ||
+           Ondo::Block::isOpenFence(last, Ondo::ONDO_MATH_BLOCK_NODE,
+                                    Ondo::ONDO_MATH_BLOCK_CLOSE_MARKER_NODE);
 }
 
 const Node* chainParent(const Node* item) {
@@ -225,6 +276,48 @@ std::u16string blanksOf(std::int64_t width, std::int64_t startColumn, IndentStyl
         blanks += u'\t';
     const std::int64_t rest = width - widthFrom(startColumn, blanks);
     return blanks.append(static_cast<std::size_t>(rest), u' ');
+}
+
+std::u16string withTabs(std::u16string blanks, std::int64_t tabs) {
+    for (; tabs < 0; ++tabs)
+        blanks.erase(0, blanks.find(u'\t') + 1);
+    return blanks.insert(0, static_cast<std::size_t>(tabs), u'\t');
+}
+
+std::u16string widened(std::u16string blanks, std::int64_t columns) {
+    for (; columns < 0 && !blanks.empty() && blanks.back() == u' '; ++columns)
+        blanks.pop_back();
+    return blanks.append(static_cast<std::size_t>(std::max<std::int64_t>(columns, 0)), u' ');
+}
+
+const Node* blockHolding(const Node* line) {
+    if (line->isBlock()) return nullptr;
+    const Node* const block = line->parentBlock();
+    return isUndivided(block) ? block : nullptr;
+}
+
+bool isAncestor(const Node* node, const Node* of) {
+    do
+        of = of->parent;
+    while (of && of != node);
+    return of;
+}
+
+bool isFirstIn(const Node* ancestor, const Node* node) {
+    while (node != ancestor && !node->previousSibling)
+        node = node->parent;
+    return node == ancestor;
+}
+
+void climbTo(const Node* ancestor, Node::Iterator& at) {
+    while (at.node != ancestor)
+        at.parent();
+}
+
+bool isCodeOf(const Node* item, Node::Iterator line) {
+    toFirstLeaf(line);
+    const Node* const block = line->parentBlock();
+    return block->type == Ondo::ONDO_INDENTED_CODE_NODE && block->parent == item;
 }
 
 } // namespace CVN::Operation

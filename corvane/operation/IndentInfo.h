@@ -53,6 +53,9 @@ Ondo::Node::Iterator itemBefore(Ondo::Node::Iterator item);
 /// The list that an item ends with; without a node when there is none.
 Ondo::Node::Iterator listAtEnd(Ondo::Node::Iterator item);
 
+/// Whether an item ends in a block that nothing has closed, and that takes whatever comes next in the item.
+bool takesWhatFollows(const Ondo::Node* item);
+
 /// The item that an item stands in, in the same quote; null when there is none.
 const Ondo::Node* chainParent(const Ondo::Node* item);
 /// The same for a position.
@@ -83,6 +86,11 @@ std::u16string blanksOfLine(const Ondo::Tree& tree, const Ondo::Node::Iterator& 
 /// Of the first line below an item's own that isn't blank.
 std::u16string blanksBelow(const Ondo::Tree& tree, const Ondo::Node::Iterator& item);
 
+/// With so many tabs more in front, or less, each with the spaces before it; they must be there.
+std::u16string withTabs(std::u16string blanks, std::int64_t tabs);
+/// With so many columns more at the end, or less, as far as there are spaces.
+std::u16string widened(std::u16string blanks, std::int64_t columns);
+
 // Lines
 
 /// Whether the line ends at the offset.
@@ -90,5 +98,18 @@ bool isLineEnd(const Ondo::Tree& tree, std::int64_t offset);
 
 /// From a line node to that of the line behind; to none at the end of the text.
 void toNextLine(Ondo::Node::Iterator& line);
+
+// Blocks and what is around them
+
+/// The block that a further line cannot move without; null for a line of a paragraph and one that starts a
+/// block.
+const Ondo::Node* blockHolding(const Ondo::Node* line);
+/// Whether a line is indented code that stands directly in an item.
+bool isCodeOf(const Ondo::Node* item, Ondo::Node::Iterator line);
+
+bool isAncestor(const Ondo::Node* node, const Ondo::Node* of);
+/// Whether nothing of an ancestor stands before a node.
+bool isFirstIn(const Ondo::Node* ancestor, const Ondo::Node* node);
+void climbTo(const Ondo::Node* ancestor, Ondo::Node::Iterator& at);
 
 } // namespace CVN::Operation

@@ -44,26 +44,9 @@ bool isIndentation(const Node* space, const Node* block) {
            !isRestOfBlankLine(space) && isContainer(block->parent);
 }
 
-/// Blocks that hold together: their lines move as one.
-bool isUndivided(const Node* block) {
-    return block->category > Node::Category::ContainerBlock && block->type != Ondo::ONDO_PARAGRAPH_NODE &&
-           block->type != Ondo::ONDO_SETEXT_HEADING_NODE;
-}
-
-/// From a line to the first line of the block that it cannot move without.
-void toFirstLineOfBlock(Node::Iterator& line) {
-    const Node* block = line->isBlock() ? line.node : line->parentBlock();
-    if (line->isBlock() || !isUndivided(block)) return;
-    while (line.node != block)
-        line.parent();
-    line.beginningOfLine();
-}
-
 /// Whether a line, behind a line feed, is no longer the further line of a paragraph.
 bool continuesParagraph(const Node::Iterator& line) {
-    const Node* const block = line->parentBlock();
-    return !line->isBlock() &&
-           (block->type == Ondo::ONDO_PARAGRAPH_NODE || block->type == Ondo::ONDO_SETEXT_HEADING_NODE);
+    return !line->isBlock() && line->parentBlock()->type == Ondo::ONDO_PARAGRAPH_NODE;
 }
 
 /// The text before the indentation of a line, less its last blanks: what an empty line in its place needs.
@@ -71,6 +54,7 @@ std::u16string emptyLineBefore(const Ondo::Tree& tree, std::int64_t lineStart, c
     std::u16string text(tree.markdownIn({lineStart, info.indentationOffset - lineStart}));
     while (!text.empty() && text.back() == u' ')
         text.pop_back();
+    if (text.empty()) return std::u16string(emptyLineAt(tree, lineStart));
     return text + u'\n';
 }
 
@@ -83,6 +67,14 @@ std::u16string ordinalOne(const Ondo::Tree& tree, const Node::Iterator& item, co
 
 bool isOrdered(const Node* item) {
     return static_cast<const Ondo::Block::ListItemNode*>(item)->isOrdered();
+}
+
+/// What lacks the marker of a quote stands behind all of it.
+void toOutermostQuote(Node::Iterator& at) {
+    const Node* quote = nullptr;
+    for (const Node* node = at.node; node; node = node->parent)
+        if (isBlockQuote(node)) quote = node;
+    if (quote) climbTo(quote, at);
 }
 
 /// By how much an ordered item's marker gets shorter when it counts from 1.
@@ -160,6 +152,7 @@ Node::Iterator Indent::findPreviousRelevantListItem(At node, bool virtualBlankLi
         node.beginningOfLine();
         while (node.node && !node->isBlock())
             toPreviousLine(node);
+        toOutermostQuote(node);
     } else {
         node.previousSibling();
     }
@@ -230,14 +223,21 @@ std::int64_t Indent::shiftOf(const Move& move) {
     return widthFrom(move.info.startColumn, move.blanks) - move.info.logicalWidth;
 }
 
-/// What is nested in the item already must not take in what comes under it.
-Indent::Level Indent::levelUnder(const Ondo::Tree& tree, const At& item) {
+/// What is nested in the item already, and stays there, must not take in what comes under it.
+Indent::Level Indent::levelUnder(const Ondo::Tree& tree, const At& item, const Move* before) {
     const std::int64_t content = columnsOf(tree, item).content;
     const At list = listAtEnd(item);
     if (!list.node) return {content, item.node, codeIndentation - 1};
     At nested = list;
     nested.lastChild();
+    if (before && before->item.node == nested.node) nested = before->beside;
     return {content, item.node, std::min(columnsOf(tree, nested).content - content, codeIndentation) - 1};
+}
+
+Indent::Level Indent::levelBeside(const Ondo::Tree& tree, At item, std::int64_t width) {
+    while (item.node && !isSimplified(tree) && columnsOf(tree, item).marker >= width)
+        item = chainParent(item);
+    return item.node ? Level{columnsOf(tree, item).marker, chainParent(item.node)} : Level();
 }
 
 std::optional<Indent::Move> Indent::moveIn(const Ondo::Tree& tree, const At& line, const Move* before) const {
@@ -245,57 +245,77 @@ std::optional<Indent::Move> Indent::moveIn(const Ondo::Tree& tree, const At& lin
     if (!item.node) return std::nullopt;
     const At previous = itemBefore(item);
     if (!previous.node) return std::nullopt;
-    const auto info = indentInfoOf(tree, line, item.node, 0);
-    if (!info) return std::nullopt;
     // Items that move together stay together.
     const bool isTogether = before && before->item.node == previous.node;
+    if (!isTogether && takesWhatFollows(previous.node)) return std::nullopt;
+    const auto info = indentInfoOf(tree, line, item.node, 0);
+    if (!info) return std::nullopt;
     const At beside = isTogether ? before->beside : previous;
-    const Level level = isTogether ? before->level : levelUnder(tree, previous);
+    const Level level = isTogether ? before->level : levelUnder(tree, previous, before);
     const IndentStyle style = isTogether ? before->style : styleFor(tree, item, previous);
     return Move{line,   item,  true,  *info,
                 beside, level, style, blanksTo(tree, level, info->startColumn, style)};
 }
 
-std::optional<Indent::Move> Indent::moveOut(const Ondo::Tree& tree, const At& start,
-                                            const Move* before) const {
-    if (isBlankLine(start)) return std::nullopt;
-    At line = start;
+/// Climbs only from a line that does leave its item: in a long item a climb takes its time.
+std::optional<Indent::Move> Indent::leaving(const Ondo::Tree& tree, At line, const Node* first) const {
+    if (isBlankLine(line)) return std::nullopt;
     At item = itemStartingOn(line);
     const bool startsItem = item.node;
+    const Node* around = item.node;
     if (!startsItem) {
-        if (!selfOrAncestor(line.node, Ondo::ONDO_LIST_ITEM_NODE)) return std::nullopt;
-        toFirstLineOfBlock(line);
-        if (itemStartingOn(line).node) return std::nullopt;
-        for (item = line; !isListItem(item.node);)
-            item.parent();
+        around = selfOrAncestor(line.node, Ondo::ONDO_LIST_ITEM_NODE);
+        if (!around || !isAncestor(around, first)) return std::nullopt;
+        const Node* const block = blockHolding(line.node);
+        if (block && isFirstIn(around, block)) return std::nullopt;
+        if (block) climbTo(block, line);
+        line.beginningOfLine();
     }
-    const auto info = indentInfoOf(tree, line, item.node, 0);
+    const auto info = indentInfoOf(tree, line, around, 0);
     if (!info || info->logicalWidth == 0) return std::nullopt;
-    const Node* const around = startsItem ? chainParent(item.node) : item.node;
-    if (before && before->beside.node && before->beside.node == around &&
-        before->level.width < info->logicalWidth)
-        return Move{line,           item,          startsItem,    *info,
-                    before->beside, before->level, before->style, before->blanks};
-    const At beside = startsItem ? chainParent(item) : item;
-    const IndentStyle style = styleFor(tree, item, beside);
-    At outer = beside;
-    while (outer.node && columnsOf(tree, outer).marker >= info->logicalWidth)
-        outer = chainParent(outer);
-    Level level;
-    if (outer.node) level = {columnsOf(tree, outer).marker, chainParent(outer.node)};
-    return Move{line,   item,  startsItem, *info,
-                beside, level, style,      blanksTo(tree, level, info->startColumn, style)};
+    if (!startsItem) {
+        item = line;
+        climbTo(around, item);
+    }
+    return Move{line, item, startsItem, *info, {}, {}, style_, {}};
+}
+
+std::optional<Indent::Move> Indent::moveOut(const Ondo::Tree& tree, const At& line, const Node* first,
+                                            const Move* before) const {
+    std::optional<Move> move = leaving(tree, line, first);
+    if (!move) return std::nullopt;
+    const std::int64_t width = move->info.logicalWidth;
+    const Node* const around = move->startsItem ? chainParent(move->item.node) : move->item.node;
+    const bool isTogether = before && around && before->beside.node == around;
+    if (isTogether && (isSimplified(tree) || before->level.width < width)) {
+        move->beside = before->beside;
+        move->level = before->level;
+        move->style = before->style;
+    } else {
+        move->beside = move->startsItem ? chainParent(move->item) : move->item;
+        move->level = levelBeside(tree, move->beside, width);
+        move->style = styleFor(tree, move->item, move->beside);
+    }
+    // Code is indented once more.
+    if (!move->startsItem && isCodeOf(move->item.node, move->line))
+        move->level.width += width - columnsOf(tree, move->item).content;
+    move->blanks = blanksTo(tree, move->level, move->info.startColumn, move->style);
+    return move;
+}
+
+bool Indent::isMoving(const Ondo::Tree& tree, const Move& move) const {
+    if (isSimplified(tree)) return move.blanks != blanksIn(tree, move.info);
+    return action_ == IndentAction::Indent ? shiftOf(move) > 0 : shiftOf(move) < 0;
 }
 
 std::vector<Indent::Move> Indent::movesIn(const Ondo::Tree& tree, At line, std::int64_t lastLine) const {
+    const Node* const first = line.node;
     std::vector<Move> moves;
     while (line.node && line.offset <= lastLine) {
         const Move* const before = moves.empty() ? nullptr : &moves.back();
         const auto move =
-            action_ == IndentAction::Indent ? moveIn(tree, line, before) : moveOut(tree, line, before);
-        const bool moving =
-            move && (action_ == IndentAction::Indent ? shiftOf(*move) > 0 : shiftOf(*move) < 0);
-        if (!moving) {
+            action_ == IndentAction::Indent ? moveIn(tree, line, before) : moveOut(tree, line, first, before);
+        if (!move || !isMoving(tree, *move)) {
             toNextLine(line);
             continue;
         }
@@ -306,25 +326,46 @@ std::vector<Indent::Move> Indent::movesIn(const Ondo::Tree& tree, At line, std::
     return moves;
 }
 
+Indent::Shift Indent::shiftBelow(const Ondo::Tree& tree, const Move& move, std::int64_t shrink) {
+    const std::int64_t depth = chainDepth(move.item.node) - (move.startsItem ? 1 : 0);
+    const std::int64_t levels = chainDepth(move.level.item) - depth;
+    Shift shift{shiftOf(move) - shrink,    shrink,     move.style, depth, levels,
+                blanksIn(tree, move.info), move.blanks};
+    if (!isSimplified(tree) || !move.beside.node || !(hasTab(shift.from) || hasTab(shift.to))) return shift;
+    const ItemColumns beside = columnsOf(tree, move.beside);
+    shift.columns = levels * (beside.content - beside.marker) - shrink;
+    return shift;
+}
+
+/// In the simplified dialect each tab leads into one item, and only behind them do columns count.
+std::u16string Indent::shifted(const Ondo::Tree& tree, const IndentInfo& info, const Shift& shift) {
+    const std::u16string blanks = blanksIn(tree, info);
+    if (!isSimplified(tree)) {
+        const std::int64_t width = std::max<std::int64_t>(info.logicalWidth + shift.columns, 0);
+        return width == info.logicalWidth ? blanks : blanksOf(width, info.startColumn, shift.style);
+    }
+    const std::int64_t tabs = std::count(blanks.begin(), blanks.end(), u'\t');
+    if (tabs > 0 && tabs >= shift.depth)
+        return widened(withTabs(blanks, shift.levels), tabs == shift.depth ? -shift.shrink : 0);
+    if (!hasTab(shift.to) || !blanks.starts_with(shift.from) || hasTab(blanks.substr(shift.from.size())))
+        return widened(blanks, shift.columns);
+    return shift.to + widened(blanks.substr(shift.from.size()), -shift.shrink);
+}
+
 /// Blank lines stay, and a line that lacks the markers of the item's quotes has no place of its own.
 void Indent::shiftLine(const Ondo::Tree& tree, const At& line, const At& item, const Shift& shift,
                        std::vector<Result>& results, Selection selection) const {
     const auto info = indentInfoOf(tree, line, item.node, 0);
     if (!info || isLineEnd(tree, info->indentationEnd())) return;
-    const std::int64_t width = std::max<std::int64_t>(info->logicalWidth + shift.columns, 0);
-    if (width == info->logicalWidth) return;
-    std::u16string blanks = blanksIn(tree, *info);
-    if (isSimplified(tree) && (hasTab(blanks) || hasTab(shift.to)) && blanks.starts_with(shift.from))
-        blanks.replace(0, shift.from.size(), shift.to);
-    else
-        blanks = blanksOf(width, info->startColumn, shift.style);
+    std::u16string blanks = shifted(tree, *info, shift);
+    if (blanks == blanksIn(tree, *info)) return;
     replaceIndentation(tree, *info, std::move(blanks), results, selection.offset, selection.length);
 }
 
 /// All lines of a list or item behind the offset `from`, the last one first.
 void Indent::shiftLines(const Ondo::Tree& tree, const At& item, std::int64_t from, const Shift& shift,
                         std::vector<Result>& results, Selection selection) const {
-    if (shift.columns == 0) return;
+    if (shift.columns == 0 && shift.levels == 0 && shift.shrink == 0) return;
     At line = item;
     line.lastNodeOfSubtree();
     line.beginningOfLine();
@@ -335,8 +376,7 @@ void Indent::shiftLines(const Ondo::Tree& tree, const At& item, std::int64_t fro
 void Indent::indentLine(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
                         Selection selection) const {
     // What belongs to an item whose marker gets shorter stays as far from its text.
-    const std::u16string from = blanksIn(tree, move.info);
-    const Shift shift{shiftOf(move) - shrinkOf(tree, move.item), move.style, from, move.blanks};
+    const Shift shift = shiftBelow(tree, move, shrinkOf(tree, move.item));
     shiftLines(tree, move.item, move.line.offset, shift, results, selection);
     if (isOrdered(move.item.node))
         setOrdinalToOne(tree, move.item, results, selection.offset, selection.length);
@@ -345,12 +385,12 @@ void Indent::indentLine(const Ondo::Tree& tree, const Move& move, std::vector<Re
 
 std::int64_t Indent::shiftBehind(const Ondo::Tree& tree, const Move& move, const At& next) const {
     const ItemColumns own = columnsOf(tree, move.item);
-    const std::int64_t shift = shiftOf(move);
-    const std::int64_t content = own.content + shift;
+    const std::int64_t content = own.content - own.marker + move.level.width;
     const std::int64_t marker = next.node ? columnsOf(tree, next).marker : content;
-    if (!move.beside.node) return next.node && marker >= content ? shift : 0;
+    if (!move.beside.node) return next.node && marker >= content ? shiftOf(move) : 0;
     const std::int64_t lowest = columnsOf(tree, move.beside).content;
-    const bool belongs = lowest >= content && marker < content + codeIndentation;
+    const bool isByTabs = isSimplified(tree) && move.style == IndentStyle::Tabs;
+    const bool belongs = !isByTabs && lowest >= content && marker < content + codeIndentation;
     return belongs && !listAtEnd(move.item).node ? 0 : content - lowest;
 }
 
@@ -365,22 +405,23 @@ void Indent::keepBehind(const Ondo::Tree& tree, const Move& move, std::vector<Re
         around = move.item;
         around.parent();
     }
-    const std::int64_t shift = shiftBehind(tree, move, next);
+    const std::int64_t columns = shiftBehind(tree, move, next);
+    const Shift shift{columns, 0, move.style, chainDepth(move.beside.node), 0, {}, {}};
     if (!next.node || !move.beside.node || !isOrdered(next.node))
-        return shiftLines(tree, around, move.item.end() - 1, {shift, move.style, {}, {}}, results, selection);
-    shiftLines(tree, around, next.end() - 1, {shift, move.style, {}, {}}, results, selection);
-    shiftLines(tree, next, next.offset, {shift - shrinkOf(tree, next), move.style, {}, {}}, results,
-               selection);
+        return shiftLines(tree, around, move.item.end() - 1, shift, results, selection);
+    Shift below = shift;
+    below.shrink = shrinkOf(tree, next);
+    below.columns -= below.shrink;
+    shiftLines(tree, around, next.end() - 1, shift, results, selection);
+    shiftLines(tree, next, next.offset, below, results, selection);
     setOrdinalToOne(tree, next, results, selection.offset, selection.length);
-    shiftLine(tree, next, next, {shift, move.style, {}, {}}, results, selection);
+    shiftLine(tree, next, next, shift, results, selection);
 }
 
 void Indent::undentLine(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
                         Selection selection) const {
     if (results.empty() && move.startsItem) keepBehind(tree, move, results, selection);
-    const std::u16string from = blanksIn(tree, move.info);
-    shiftLines(tree, move.item, move.line.offset, {shiftOf(move), move.style, from, move.blanks}, results,
-               selection);
+    shiftLines(tree, move.item, move.line.offset, shiftBelow(tree, move, 0), results, selection);
     replaceIndentation(tree, move.info, move.blanks, results, selection.offset, selection.length);
     if (move.startsItem || isSimplified(tree) || !continuesParagraph(move.line)) return;
     Result::addToList(results, move.line.offset, 0, emptyLineBefore(tree, move.line.offset, move.info),
@@ -403,9 +444,9 @@ void Indent::indentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_
                        selection.length);
 }
 
-void Indent::undentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_t offset, bool isVirtual,
+void Indent::undentBlankLine(const Ondo::Tree& tree, const At& line, Selection range, bool isVirtual,
                              std::vector<Result>& results, Selection selection) const {
-    const At item = findPreviousRelevantListItem(isVirtual ? leafAt(tree, offset) : line, isVirtual);
+    const At item = findPreviousRelevantListItem(isVirtual ? leafAt(tree, range.offset) : line, isVirtual);
     if (!item.node) return;
     Level level;
     if (!isVirtual) {
@@ -416,12 +457,13 @@ void Indent::undentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_
             replaceIndentation(tree, *info, blanksTo(tree, level, info->startColumn, style_), results,
                                selection.offset, selection.length);
     }
-    if (level.width > 0 || isSimplified(tree)) return;
+    if (level.width > 0 || range.length > 0 || isSimplified(tree)) return;
     // An empty line keeps what is typed next from joining the list.
     const bool hasGap = isVirtual ? isBlankLine(line) : isBlank(line->previousSibling);
     const bool isInDocument = isVirtual || isOfType(line->parent, Ondo::ONDO_DOCUMENT_NODE);
     if (hasGap || !isInDocument) return;
-    Result::addToList(results, isVirtual ? offset : line.offset, 0, u"\n", selection.offset,
+    const std::int64_t at = isVirtual ? range.offset : line.offset;
+    Result::addToList(results, at, 0, std::u16string(emptyLineAt(tree, at)), selection.offset,
                       selection.length);
 }
 
@@ -438,7 +480,7 @@ std::vector<Result> Indent::run(const Ondo::Tree& tree, std::int64_t offset, std
         if (isIndenting)
             indentBlankLine(tree, first, offset, isVirtual, results, selection);
         else
-            undentBlankLine(tree, first, offset, isVirtual, results, selection);
+            undentBlankLine(tree, first, {offset, length}, isVirtual, results, selection);
         return results;
     }
     const std::vector<Move> moves = movesIn(tree, first, last.offset);

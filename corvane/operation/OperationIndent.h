@@ -18,11 +18,13 @@ namespace CVN::Operation {
 /// start of its lines.
 ///
 /// Indenting puts an item under the one before it: its marker goes to that one's text, and an ordered item
-/// counts from 1 again. Undenting puts an item beside the one around it, and what follows a line of an item
-/// that isn't its first leaves the item as well; a line feed in front keeps such a line from joining the item
-/// again. All other lines keep their columns with regard to the first one that moves. Blank lines move with
-/// nothing; the one with the caret goes through the columns of the items above it. What is not in a list or
-/// directly below one stays.
+/// counts from 1 again; no item goes into a block that nothing closes. Undenting puts an item beside the one
+/// around it, and what follows a line of an item that isn't its first leaves the item as well; a line feed in
+/// front keeps such a line from joining the item again. A line stays with an item that starts in the range,
+/// and a block of several lines goes as a whole. All other lines keep their columns with regard to the first
+/// one that moves; in the simplified dialect those that tabs lead into items get a tab more or less. Blank
+/// lines move with nothing; the one with the caret goes through the columns of the items above it. What is
+/// not in a list or directly below one stays.
 ///
 /// Indentation is the blanks at the start of a line, behind the markers of quotes. Widths are columns, with
 /// tab stops at every 4; lengths and offsets count UTF-16 code units.
@@ -92,14 +94,22 @@ private:
     /// How lines move.
     struct Shift {
         std::int64_t columns;
+        std::int64_t shrink; ///< of these, those by which the marker above them gets shorter
         IndentStyle style;
-        std::u16string_view from; ///< what the first line was indented with
-        std::u16string_view to;   ///< and is now
+        std::int64_t depth;  ///< how many items of the chain they all stand in
+        std::int64_t levels; ///< and how many more they will
+        std::u16string from; ///< what the first line was indented with
+        std::u16string to;   ///< and is now
     };
 
     std::vector<Move> movesIn(const Ondo::Tree& tree, At line, std::int64_t lastLine) const;
     std::optional<Move> moveIn(const Ondo::Tree& tree, const At& line, const Move* before) const;
-    std::optional<Move> moveOut(const Ondo::Tree& tree, const At& line, const Move* before) const;
+    std::optional<Move> moveOut(const Ondo::Tree& tree, const At& line, const Ondo::Node* first,
+                                const Move* before) const;
+    /// The item that starts on a line, or the line itself, with the block that holds it, and where it stands:
+    /// of an item around the line node `first` only, as an item in the range moves as a whole or stays.
+    std::optional<Move> leaving(const Ondo::Tree& tree, At line, const Ondo::Node* first) const;
+    bool isMoving(const Ondo::Tree& tree, const Move& move) const;
 
     void indentLine(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
                     Selection selection) const;
@@ -107,12 +117,14 @@ private:
                     Selection selection) const;
     void indentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_t offset, bool isVirtual,
                          std::vector<Result>& results, Selection selection) const;
-    void undentBlankLine(const Ondo::Tree& tree, const At& line, std::int64_t offset, bool isVirtual,
+    void undentBlankLine(const Ondo::Tree& tree, const At& line, Selection range, bool isVirtual,
                          std::vector<Result>& results, Selection selection) const;
 
     /// With the columns of the line's text, or of the item's where the line isn't its first.
     static std::optional<IndentInfo> indentInfo(const At& lineNode, const At& item, const Ondo::Tree& tree);
-    static Level levelUnder(const Ondo::Tree& tree, const At& item);
+    static Level levelUnder(const Ondo::Tree& tree, const At& item, const Move* before);
+    /// Beside the item or the first one around it whose marker stands before a width.
+    static Level levelBeside(const Ondo::Tree& tree, At item, std::int64_t width);
     /// The first level beyond a width, from the item and those around it; the item's own if there is none.
     static Level nextLevelIndentation(At item, std::int64_t width, const Ondo::Tree& tree);
     /// The last level before a width, or column 0.
@@ -126,6 +138,8 @@ private:
     static std::u16string blanksTo(const Ondo::Tree& tree, const Level& level, std::int64_t startColumn,
                                    IndentStyle style);
     static std::int64_t shiftOf(const Move& move);
+    static Shift shiftBelow(const Ondo::Tree& tree, const Move& move, std::int64_t shrink);
+    static std::u16string shifted(const Ondo::Tree& tree, const IndentInfo& info, const Shift& shift);
     std::int64_t shiftBehind(const Ondo::Tree& tree, const Move& move, const At& next) const;
     void keepBehind(const Ondo::Tree& tree, const Move& move, std::vector<Result>& results,
                     Selection selection) const;

@@ -53,6 +53,25 @@ TEST(Indent, PutsAnItemUnderTheOneBefore) {
                        });
 }
 
+TEST(Indent, PutsNoItemIntoABlockThatNothingCloses) {
+    expectEach(indent, {
+                           {u"- ```\n  x\n- b‸", u""},
+                           {u"- a\n\n  ```\n  x\n\n- b‸", u""},
+                           {u"- $$\n  x\n- b‸", u""},
+                           {u"- <div>\n- b‸", u""},
+                           {u"- <!-- x\n\n- b‸", u""},
+                           {u"- ```\n  x\n  ```\n- b‸", u"- ```\n  x\n  ```\n  - b‸"},
+                           {u"- $$\n  x\n  $$\n- b‸", u"- $$\n  x\n  $$\n  - b‸"},
+                           {u"- <div>\n\n- b‸", u"- <div>\n\n  - b‸"},
+                           {u"- <!-- x\n  -->\n- b‸", u"- <!-- x\n  -->\n  - b‸"},
+                           {u"- <PRE>x</pre>\n- b‸", u"- <PRE>x</pre>\n  - b‸"},
+                           // Beside it, or where its container ends, it stays out.
+                           {u"- a\n⟦- ```\n- b⟧", u"- a\n  ⟦- ```\n  - b⟧"},
+                           {u"- a\n  - ```\n- b‸", u"- a\n  - ```\n  - b‸"},
+                           {u"- > ```\n- b‸", u"- > ```\n  - b‸"},
+                       });
+}
+
 TEST(Indent, MovesAnItemWithAllBelow) {
     const std::vector<Ondo::Test::CommandCase> cases = {
         {u"- a\n- b‸\n  - c\n    - d\n- e", u"- a\n  - b‸\n    - c\n      - d\n- e"},
@@ -116,6 +135,11 @@ TEST(Outdent, PutsAnItemBesideTheOneAround) {
                    // Several items
                    {u"- a\n  ⟦- b\n    - c\n  - d⟧", u"- a\n⟦- b\n  - c\n- d⟧"},
                    {u"⟦- a\n  - b\n    - c⟧", u"⟦- a\n- b\n  - c⟧"},
+                   // A further line stays with an item of the selection that can't move.
+                   {u"⟦- a\n  b\n- c⟧", u""},
+                   {u"⟦- a\n  b\n  - c⟧", u"⟦- a\n  b\n- c⟧"},
+                   {u"⟦- a\n  - b\n\n  c⟧", u"⟦- a\n- b\n\n  c⟧"},
+                   {u"- a\n⟦  b\n- c⟧", u"- a\n\n⟦b\n- c⟧"},
                    // Nowhere to go
                    {u"- a‸", u""},
                    {u"- a\nlazy‸", u""},
@@ -138,6 +162,17 @@ TEST(Outdent, TakesFurtherLinesOutOfTheirItem) {
         {u"- a\n  ```\n  x‸\n  ```", u"- a\n```\nx‸\n```"},
         {u"- ```\n  x‸\n  ```", u""},
         {u"- a\n  # b‸", u"- a\n# b‸"},
+        {u"- a\n\n  Title\n  ===‸", u"- a\n\nTitle\n===‸"},
+        {u"- a\n  ---‸", u""},
+        // Code keeps its indentation.
+        {u"- a\n\n      code\n      more‸", u"- a\n\n    code\n    more‸"},
+        {u"- a\n  - b\n\n        code‸\n          x\n\n    p",
+         u"- a\n  - b\n\n      code‸\n        x\n\n  p"},
+        {u"- a\n\n      code\n\n  p‸", u"- a\n\n      code\n\np‸"},
+        {u"-     code\n      more‸", u""},
+        // A line feed behind a lone carriage return would only complete its line ending.
+        {u"- a\r  b‸", u"- a\r\n\nb‸"},
+        {u"> - a\r>   b‸", u"> - a\r>\n> b‸"},
     };
     expectEach(outdent, cases);
     expectEach(outdent, {{u"- a\n  b‸", u"- a\nb‸"}}, RuleConfig::Simplified);
@@ -159,6 +194,10 @@ TEST(Indent, TakesABlankLineThroughTheColumnsAbove) {
                            {u"p\n‸", u""},
                            {u"p\n‸\n- a", u""},
                            {u"> - a\n> ‸\n", u"> - a\n>   ‸\n"},
+                           // The last empty line stands behind the whole quote.
+                           {u"> - a\n> - b\n‸", u""},
+                           {u"> - a\n>\n‸", u""},
+                           {u"- x\n  > - a\n  > - b\n‸", u"- x\n  > - a\n  > - b\n  ‸"},
                        });
     expectEach(outdent, {
                             {u"- a\n  - b\n    ‸", u"- a\n  - b\n  ‸"},
@@ -171,7 +210,11 @@ TEST(Indent, TakesABlankLineThroughTheColumnsAbove) {
                             {u"- a\n\n‸", u""},
                             {u"- a\n‸\nb", u"- a\n\n‸\nb"},
                             {u"> - a\n>   ‸\n", u"> - a\n> ‸\n"},
+                            {u"> - a\n> - b\n‸", u""},
                             {u"p\n‸", u""},
+                            {u"- a\n⟦  ⟧\nb", u"- a\n‸\nb"},
+                            {u"- a\r‸", u"- a\r\n\n‸"},
+                            {u"- a\r‸\rb", u"- a\r\n\n‸\rb"},
                         });
     expectEach(outdent, {{u"- a\n  ‸", u"- a\n‸"}, {u"- a\n‸", u""}}, RuleConfig::Simplified);
 }
@@ -195,6 +238,34 @@ TEST(Indent, WithTabs) {
                    },
                    rules);
     }
+}
+
+TEST(Indent, MeasuresOnlyWhatStaysInTheItemAbove) {
+    const Indent tabs(IndentAction::Indent, IndentStyle::Tabs);
+    expectEach(tabs, {
+                         {u"* a\n  9. ⟦b\n     9. c\n     10. d\n  10. e⟧",
+                          u"* a\n  9. ⟦b\n     9. c\n\t\t1. d\n\t 1. e⟧"},
+                         {u"* a\n  9. b\n     9. c\n     10. d\n  10. e‸",
+                          u"* a\n  9. b\n     9. c\n     10. d\n\t\t1. e‸"},
+                     });
+}
+
+TEST(Indent, TakesEachTabForAnItemWhereItIsOne) {
+    const std::vector<Ondo::Test::CommandCase> in = {
+        {u"- a\n- b‸\n  x\n\t- d", u"- a\n  - b‸\n    x\n\t\t- d"},
+        {u"- a\n⟦- b\n- c⟧\n\td", u"- a\n  ⟦- b\n  - c⟧\n\t\td"},
+        {u"- a\n- b‸\n  \tx\n\t  - c\n\t\ty", u"- a\n\t- b‸\n\t  \tx\n\t\t  - c\n\t\t\ty"},
+        {u"- a\n\t- b\n  - c‸\n    d", u"- a\n\t- b\n\t\t- c‸\n\t\t  d"},
+        {u"9. a\n10. b‸\n    - c\n\t- d", u"9. a\n   1. b‸\n      - c\n\t\t- d"},
+    };
+    expectEach(indent, in, RuleConfig::Simplified);
+    const std::vector<Ondo::Test::CommandCase> out = {
+        {u"- a\n\t- b‸\n    - c", u"- a\n- b‸\n  - c"},
+        {u"+ a\n\t9. b‸\n     c\n\t\td", u"+ a\n9. b‸\n   c\n\td"},
+        {u"- a\n\t- b\n\t  - c‸\n\t\t\td\n\t    e", u"- a\n\t- b\n\t- c‸\n\t\td\n\t  e"},
+        {u"- a\n\t- b‸\n\t- c\n\t\td", u"- a\n- b‸\n\t- c\n\t\td"},
+    };
+    expectEach(outdent, out, RuleConfig::Simplified);
 }
 
 TEST(Indent, MixesTabsAndSpacesOnlyWhereColumnsCount) {
