@@ -193,7 +193,7 @@ std::string_view trimmedRight(std::string_view text) {
 
 constexpr std::int64_t maximumTimes = 10'000;
 
-/// The number behind the "*" of a line, which loses both; 1 when there is none.
+/// The number behind the "*" of a line, which loses both and the blanks before them; 1 when there is none.
 std::int64_t takeTimes(std::string_view& line) {
     const std::size_t star = line.find('*');
     if (star == std::string_view::npos) return 1;
@@ -201,7 +201,7 @@ std::int64_t takeTimes(std::string_view& line) {
     const std::optional<std::int64_t> times = takeCount(number);
     if (!times || !number.empty() || *times < 1 || *times > maximumTimes)
         throw BadKey("behind * stands how often the key is pressed, from 1 to 10000");
-    line = line.substr(0, star);
+    line = trimmedRight(line.substr(0, star));
     return *times;
 }
 

@@ -29,12 +29,12 @@ bool canFollowMarker(const Ondo::Tree& tree, std::int64_t offset) {
 std::vector<Result> CalloutCorrection::run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
                                            std::u16string_view replacement, std::int64_t selectionOffset,
                                            std::int64_t selectionLength) const {
-    if (!isBehindMarker(tree, offset)) return {};
+    const PendingEdit edit{tree, offset, length, replacement, selectionOffset, selectionLength};
     if (replacement.empty() && (length == 0 || canFollowMarker(tree, offset + length))) return {};
     if (!replacement.empty() && canFollowMarker(replacement.front())) return {};
+    if (!isBehindMarker(tree, offset) || isDeletionOfLineEnding(edit)) return {};
     std::u16string spaced = u" ";
     spaced += replacement;
-    const PendingEdit edit{tree, offset, length, replacement, selectionOffset, selectionLength};
     return keepingEdit(padded(edit, spaced, 1, 0), {}, {});
 }
 

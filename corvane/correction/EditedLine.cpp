@@ -71,7 +71,7 @@ std::int64_t movedOver(std::int64_t position, const Change& change) {
 
 /// The column of an item's content, from its marker. More than four columns of blanks behind the marker
 /// belong to the content but for one, by CommonMark 0.31.2.
-std::int64_t contentColumn(const Ondo::Tree& tree, Node::Iterator marker, std::int64_t column) {
+std::int64_t columnOfContent(const Ondo::Tree& tree, Node::Iterator marker, std::int64_t column) {
     constexpr std::int64_t widestPadding = 4;
     const auto length = static_cast<std::size_t>(lengthWithoutBox(marker.node));
     const std::u16string_view text = textOf(tree, marker).substr(0, length);
@@ -134,7 +134,14 @@ Node* htmlBefore(Node::Iterator line) {
 
 bool canBecomeFence(const Node* block) {
     return !block || block->type == Ondo::ONDO_DOCUMENT_NODE || block->type == Ondo::ONDO_BLANK_LINE_NODE ||
-           block->type == Ondo::ONDO_PARAGRAPH_NODE || block->type == Ondo::ONDO_SETEXT_HEADING_NODE;
+           block->type == Ondo::ONDO_PARAGRAPH_NODE;
+}
+
+bool isDeletionOfLineEnding(const PendingEdit& edit) {
+    constexpr std::int64_t longest = 2;
+    if (!edit.replacement.empty() || edit.length == 0 || edit.length > longest) return false;
+    const std::u16string_view text = edit.tree.markdownIn({edit.offset, edit.length});
+    return text == u"\n" || text == u"\r\n" || text == u"\r";
 }
 
 std::vector<Result> keepingEdit(const PendingEdit& edit, const std::optional<Change>& behind,
@@ -185,6 +192,31 @@ EditedLine::EditedLine(const PendingEdit& edit) : edit_(edit) {
     if (leaf.node && leaf->type == Ondo::ONDO_SPACE_NODE) contentStart_ = edit.offset;
 }
 
+bool EditedLine::isLazy() const {
+    if (!isOfType(block_, Ondo::ONDO_PARAGRAPH_NODE)) return false;
+    const Node* const container = block_->parent;
+    Node::Iterator leaf = leafAt(edit_.tree, start_);
+    for (; leaf.node && leaf.offset < contentStart_; ++leaf)
+        if (isContainerMarker(leaf.node) && leaf->maker == container) return false;
+    if (isBlockQuote(container)) return true;
+    return isListItem(container) && contentColumn() < itemColumn();
+}
+
+Node* EditedLine::blockBeforeFence() const {
+    Node* block = block_;
+    if (isLazy())
+        while (!block->nextSibling && block->parent)
+            block = block->parent;
+    return block;
+}
+
+Node::Iterator EditedLine::contentLeaf() const {
+    Node::Iterator leaf = leafAt(edit_.tree, start_);
+    while (isPrefixLeaf(leaf.node) || (leaf.node && leaf->firstChild))
+        ++leaf;
+    return leaf;
+}
+
 std::int64_t EditedLine::endBehindEdit() const {
     std::int64_t end = edit_.end();
     while (end < edit_.tree.length() && !hasLineBreak(edit_.tree.markdownIn({end, 1})))
@@ -211,11 +243,22 @@ std::u16string EditedLine::contentBehind() const {
     return content;
 }
 
-bool EditedLine::isFenceIndentation() const {
+std::u16string EditedLine::fenceBehind() const {
+    std::u16string content = contentBehind();
+    const std::size_t blanks = std::min(content.find_first_not_of(u" \t"), content.size());
+    if (!isFenceIndentation(std::u16string_view(content).substr(0, blanks))) return {};
+    return content.substr(blanks);
+}
+
+bool EditedLine::isFenceIndentation(std::u16string_view blanks) const {
     constexpr std::int64_t most = 3;
-    if (!block_ || contentStart_ == start_) return true;
-    const std::int64_t column = columnBehind(0, edit_.tree.markdownIn({start_, contentStart_ - start_}));
+    const std::int64_t column = columnBehind(contentColumn(), blanks);
+    if (!block_ || column <= most) return column <= most;
     return column - (isListItem(block_->parent) ? itemColumn() : quoteColumn()) <= most;
+}
+
+std::int64_t EditedLine::contentColumn() const {
+    return columnBehind(0, edit_.tree.markdownIn({start_, contentStart_ - start_}));
 }
 
 std::int64_t EditedLine::quoteColumn() const {
@@ -242,7 +285,7 @@ std::int64_t EditedLine::itemColumn() const {
     if (!at.node) return 0;
     // Behind the box of a task, on its own line, the content begins further right.
     const bool isOwnBox = at.offset >= start_ && lengthWithoutBox(at.node) < at->charCount;
-    return isOwnBox ? columnBehind(column, textOf(edit_.tree, at)) : contentColumn(edit_.tree, at, column);
+    return isOwnBox ? columnBehind(column, textOf(edit_.tree, at)) : columnOfContent(edit_.tree, at, column);
 }
 
 bool EditedLine::isInsideLine() const {

@@ -48,6 +48,10 @@ PendingEdit padded(const PendingEdit& edit, std::u16string_view text, std::int64
 /// Whether text in such a block may begin a fence; null stands for a line that belongs to none.
 bool canBecomeFence(const Ondo::Node* block);
 
+/// Whether the edit deletes a line ending and nothing else. The commands of the delete keys know best how to
+/// join two lines: what goes along is the prefix of the second one.
+bool isDeletionOfLineEnding(const PendingEdit& edit);
+
 /// The line in which an edit begins: what its containers write, and its content.
 ///
 /// A content is given without trailing blanks, and of an overlong line only the first thousands of units.
@@ -62,6 +66,13 @@ public:
     /// there.
     Ondo::Node* block() const { return block_; }
 
+    /// The block behind which a fence on this line would stand: the same one, or, where the line carries on a
+    /// paragraph from outside of its container ("> a" and then "b"), the one around it with a block below.
+    Ondo::Node* blockBeforeFence() const;
+
+    /// The leaf behind the markers of quotes and items and all blanks.
+    Ondo::Node::Iterator contentLeaf() const;
+
     /// Where the line ending behind the edit stands, or the end of the text.
     std::int64_t endBehindEdit() const;
 
@@ -69,8 +80,11 @@ public:
     /// With the edit made. It ends where the line ends then.
     std::u16string contentBehind() const;
 
-    /// Whether the content stands far enough to the left for a fence.
-    bool isFenceIndentation() const;
+    /// The same without blanks in front; empty where those move it too far to the right for a fence.
+    std::u16string fenceBehind() const;
+
+    /// Whether the content, behind further blanks, stands far enough to the left for a fence.
+    bool isFenceIndentation(std::u16string_view blanks = {}) const;
 
     /// Whether the edit takes and leaves no line break, so that the lines stay what they are.
     bool isInsideLine() const;
@@ -84,6 +98,8 @@ public:
     std::u16string furtherPrefix(Operation::IndentStyle style) const;
 
 private:
+    bool isLazy() const;
+    std::int64_t contentColumn() const;
     std::int64_t quoteColumn() const;
     std::int64_t itemColumn() const;
 

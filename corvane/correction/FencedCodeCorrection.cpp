@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "corvane/block/Fence.h"
 #include "corvane/block/FencedCode.h"
 #include "corvane/correction/EditedLine.h"
+#include "corvane/correction/FencePairs.h"
 #include "corvane/operation/LineWalk.h"
 
 namespace CVN::Correction {
@@ -46,9 +46,12 @@ bool isOpeningFence(std::u16string_view content) {
            content.find(tick, static_cast<std::size_t>(ticks)) == std::u16string_view::npos;
 }
 
+const Ondo::Block::FencedCodeNode& asCode(const Node* block) {
+    return static_cast<const Ondo::Block::FencedCodeNode&>(*block);
+}
+
 bool isBlockOfTicks(const Node* block) {
-    return isOfType(block, Ondo::ONDO_FENCED_CODE_NODE) &&
-           static_cast<const Ondo::Block::FencedCodeNode*>(block)->fenceCharacter == tick;
+    return isOfType(block, Ondo::ONDO_FENCED_CODE_NODE) && asCode(block).fenceCharacter == tick;
 }
 
 bool isOpeningMarker(const Node* node) {
@@ -83,41 +86,40 @@ std::vector<Result> withChange(const PendingEdit& edit, const Change& change) {
 std::vector<Result> grownFences(const PendingEdit& edit, const Node::Iterator& fence) {
     const Node::Iterator other = otherFence(fence);
     if (!other.node) return {};
+    const std::int64_t ticks = fence->charCount;
+    const bool isForAnother = isOpeningMarker(fence.node) && weightFrom(fence->maker, ticks + edit.growth()) <
+                                                                 weightFrom(fence->maker, ticks);
+    if (isForAnother) return {};
     return withChange(edit, {other.offset, 0, std::u16string(edit.replacement)});
 }
 
 std::vector<Result> shrunkFences(const PendingEdit& edit, const Node::Iterator& fence) {
     const Node::Iterator other = otherFence(fence);
-    const bool staysFence = other.node && edit.end() <= fence.end() &&
-                            std::min(fence->charCount, other->charCount) - edit.length >= leastFence;
-    if (!staysFence) return {};
+    if (!other.node || edit.end() > fence.end()) return {};
+    const std::int64_t ticks = std::min(fence->charCount, other->charCount) - edit.length;
+    if (ticks < leastFence || holdsFence(asCode(fence->maker).code, ticks)) return {};
     return withChange(edit, {other.offset, edit.length, {}});
+}
+
+/// Whether the fences below pair up better when one of so many backticks opens behind a block.
+bool isBetterWithFence(const Node* block, std::int64_t ticks) {
+    return weightBehind(block, ticks) < weightBehind(block, 0);
 }
 
 /// In a closed block: takes its closing fence away when the edit closes it before, or doesn't open it.
 std::vector<Result> withoutClosingFence(const PendingEdit& edit, const EditedLine& line) {
-    const std::u16string content = line.contentBehind();
-    const bool isOpening = isOpeningMarker(leafAt(edit.tree, line.contentStart()).node);
-    const std::int64_t opening = line.block()->firstMarker()->charCount;
-    const bool closes = isOnlyTicks(edit.replacement) && isOnlyTicks(content) &&
-                        leadingTicks(content) >= opening && line.isFenceIndentation();
-    if (isOpening ? isOpeningFence(content) : !closes) return {};
+    const std::u16string fence = line.fenceBehind();
+    const Node::Iterator opening = line.contentLeaf();
+    if (isOpeningMarker(opening.node)) {
+        if (edit.end() <= opening.offset || isOpeningFence(fence)) return {};
+    } else {
+        const bool closes = isOnlyTicks(edit.replacement) && isOnlyTicks(fence) &&
+                            leadingTicks(fence) >= line.block()->firstMarker()->charCount;
+        if (!closes) return {};
+    }
     const auto removal = line.removalOfClosingFence();
-    return removal ? keepingEdit(edit, removal, {}) : std::vector<Result>();
-}
-
-/// Whether an open block below, in the same container, gives a block of that many backticks its closing
-/// fence.
-bool isClosedBelow(Node* block, std::int64_t ticks) {
-    constexpr auto code = Ondo::ONDO_FENCED_CODE_NODE;
-    constexpr auto closing = Ondo::ONDO_FENCED_CODE_CLOSE_MARKER_NODE;
-    if (!block || !block->parent || !Ondo::Block::isOpenFence(block->parent->lastChild, code, closing))
-        return false;
-    while (block && block->type != code)
-        block = block->nextSibling;
-    if (!isBlockOfTicks(block) || block->nextSibling) return false;
-    const auto* const open = static_cast<const Ondo::Block::FencedCodeNode*>(block);
-    return open->info.empty() && block->firstMarker()->charCount >= ticks;
+    if (!removal || isBetterWithFence(line.block(), closingFence(*line.block())->charCount)) return {};
+    return keepingEdit(edit, removal, {});
 }
 
 } // namespace
@@ -129,7 +131,7 @@ std::vector<Result> FencedCodeCorrection::closedBlock(const PendingEdit& edit, c
     if (!isAtContent || before + countTicksForward(edit.tree, edit.end()) >= leastFence) return {};
     const std::u16string content = line.contentBehind();
     const std::int64_t ticks = leadingTicks(content);
-    if (!isOpeningFence(content) || isClosedBelow(line.block(), ticks)) return {};
+    if (!isOpeningFence(content) || isBetterWithFence(line.blockBeforeFence(), ticks)) return {};
     std::u16string text = u"\n" + line.furtherPrefix(style_);
     text.append(static_cast<std::size_t>(ticks), tick);
     return keepingEdit(edit, Change{line.endBehindEdit(), 0, std::move(text)}, {});
@@ -149,7 +151,9 @@ std::vector<Result> FencedCodeCorrection::run(const Ondo::Tree& tree, std::int64
         const auto shrunk = isFence && replacement.empty() ? shrunkFences(edit, run) : std::vector<Result>();
         return shrunk.empty() ? withoutClosingFence(edit, line) : shrunk;
     }
-    return canBecomeFence(line.block()) ? closedBlock(edit, line) : std::vector<Result>();
+    const bool isText =
+        canBecomeFence(line.block()) || isOfType(line.block(), Ondo::ONDO_SETEXT_HEADING_NODE);
+    return isText ? closedBlock(edit, line) : std::vector<Result>();
 }
 
 } // namespace CVN::Correction

@@ -11,16 +11,21 @@ class EditedLine;
 /// Keeps the two fences of a code block alike, and closes a block as soon as its opening fence is typed.
 ///
 /// - Backticks typed at one fence of a closed block go into the other one as well, and backticks deleted from
-///   one leave the other, as long as both stay fences.
+///   one leave the other, as long as both stay fences. The other fence stays as it is where a line of the
+///   code would be taken for a fence of the shorter length.
 /// - Backticks that bring a run to three or more where a line's content begins make an opening fence. A
 ///   closing fence of the same length goes on a line of its own behind that line, with the line's prefix, so
 ///   that it belongs to the same quotes and items; an item's marker becomes blanks, or tabs with the style
-///   Tabs. The selection stays with the edit. Nothing is added where a fence further down, which was open
-///   until then, closes the block, and where a backtick stands in the rest of the line, which makes it text.
+///   Tabs. The selection stays with the edit. Nothing is added where a backtick stands in the rest of the
+///   line, which makes it text.
 /// - Backticks that close a block on a line with only blank lines between it and the closing fence that is
-///   there take its place: the other one goes.
-/// - An edit of the opening line of a block with only blank lines that leaves no opening fence there, as in
-///   "```x`" or "``", takes the closing fence along.
+///   there take its place: the other one goes. Like any fence, they may stand behind up to three blanks.
+/// - An edit inside or behind the opening fence of a block with only blank lines that leaves no opening fence
+///   there, as in "```x`" or "``", takes the closing fence along. An edit in front of it does not.
+///
+/// The other fence is left alone where the edit by itself makes the fences below pair up better than they do
+/// now: it puts back a fence that was missing, such as one of which a backtick was deleted a moment ago. See
+/// FencePairs.h for what is better. Only fences of the same container count.
 ///
 /// All of this looks at fences of backticks in blocks of code that begin with them; fences of tildes are left
 /// alone, as is the inside of a block, open or closed.

@@ -66,7 +66,9 @@ std::vector<Result> TableSpaceCorrection::run(const Ondo::Tree& tree, std::int64
                                               std::int64_t length, std::u16string_view replacement,
                                               std::int64_t selectionOffset,
                                               std::int64_t selectionLength) const {
-    if (replacement.empty() || replacement.find_first_of(u"|\r\n\t") != std::u16string_view::npos) return {};
+    if (replacement.empty() || replacement.find_first_of(u"\r\n\t") != std::u16string_view::npos) return {};
+    const bool endsCell = replacement.front() == u'|';
+    if (!endsCell && replacement.find(u'|') != std::u16string_view::npos) return {};
     const auto cell = cellAround(tree, offset, offset + length);
     if (!cell) return {};
 
@@ -78,8 +80,8 @@ std::vector<Result> TableSpaceCorrection::run(const Ondo::Tree& tree, std::int64
 
     std::u16string text(replacement);
     if (isBehindText && isSpaces(replacement)) std::fill(text.begin(), text.end(), nbsp);
-    const bool needsSpaceBefore = offset == cell->start && text.front() != u' ';
-    const bool needsSpaceBehind = end == cell->end && text.back() != u' ';
+    const bool needsSpaceBefore = !endsCell && offset == cell->start && text.front() != u' ';
+    const bool needsSpaceBehind = !endsCell && end == cell->end && text.back() != u' ';
     if (text == replacement && held == 0 && !needsSpaceBefore && !needsSpaceBehind) return {};
     if (needsSpaceBefore) text.insert(0, 1, u' ');
     if (needsSpaceBehind) text += u' ';

@@ -11,11 +11,12 @@ inline constexpr char16_t nbsp = u'\u00A0';
 ///
 /// - Spaces typed right behind a cell's text, with nothing but padding up to the pipe, go in as no-break
 ///   spaces, so that they are not taken for padding.
-/// - Text typed behind such no-break spaces turns them into spaces: they stand between words now.
+/// - Text typed behind such no-break spaces turns them into spaces: they stand between words now. So does a
+///   pipe, which makes them padding.
 /// - Text typed right behind a pipe gets a space in front, and text typed right before one a space behind.
 ///
 /// The selection stays with the text. No opinion about an edit that reaches beyond one cell, and about text
-/// with a pipe, line break or tab.
+/// with a pipe further in, a line break or a tab.
 class CORVANE_EXPORT TableSpaceCorrection : public Correction {
 public:
     /// A cell's text between its padding of spaces and tabs. A cell of nothing but blanks is all `leading`.

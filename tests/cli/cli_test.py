@@ -744,7 +744,7 @@ class Keys(CommandTest):
     def test_an_empty_note_is_the_start(self):
         self.assert_prints('{"text":"a","selection":[1,0]}\n', "keys", "--script", "-", stdin=b"text:a")
         self.assert_prints('{"text":"","selection":[0,0]}\n', "keys", "--script", "-")
-        script = self.file("s", "# nothing\r\n\n \t\n  text:b \r\n  left*2  \n")
+        script = self.file("s", "# nothing\r\n\n \t\n  text:b \r\n  left*1  \nleft \t*1\n")
         self.assert_prints('{"text":"ab ","selection":[1,0]}\n', "keys", "-", "--script", script, stdin=b"a")
 
     def test_trace(self):

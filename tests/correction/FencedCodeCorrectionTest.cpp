@@ -111,10 +111,70 @@ TEST(FencedCodeCorrection, NoFenceIsLeftOver) {
         {u"```x‸\n```\nb", u"`", u"```x`‸\nb"},
         {u"- ``⟦`⟧\n\n  ```\n- b", u"", u"- ``‸\n- b"},
         {u"⟦```js⟧\n\n```\nb", u"", u"‸\nb"},
-        {u"‸```\n```", u"x", u"x‸```"},
         {u"```‸\n```", u"x", u""},
         {u"```‸\n```", u"\n", u""},
         {u"```‸\nx\n```", u"x`", u""},
+    });
+}
+
+TEST(FencedCodeCorrection, EditsInFrontOfAFenceKeepTheOther) {
+    expectEach({
+        {u"‸```\n```\nend", u" ", u""},
+        {u"‸```\n```\nend", u"-", u""},
+        {u"> - ‸```\n>   ```\nend", u" ", u""},
+        {u"   ‸```\n   ```\nend", u" ", u""}, // too far in now
+        {u" ⟦ ⟧```\n```\nend", u"", u""},
+        {u" ⟦ `⟧``\n  ````\n y", u"`", u""},
+        {u" ⟦ `⟧``\n  ````\n y", u"", u" ‸``\n y"},
+        {u"⟦  ```js⟧\n```\nb", u"", u"‸\nb"},
+    });
+}
+
+TEST(FencedCodeCorrection, TypedFenceMayBeIndented) {
+    expectEach({
+        {u"```\nx\n  ``‸\n```\nend", u"`", u"```\nx\n  ```‸\nend"},
+        {u"- ```\n  x\n     ``‸\n  ```\n- end", u"`", u"- ```\n  x\n     ```‸\n- end"},
+        {u"> ```\n>  ``‸\n>\n> ```\nend", u"`", u"> ```\n>  ```‸\nend"},
+        {u"```\nx\n    ``‸\n```\nend", u"`", u""},
+        {u"```\nx\n\t``‸\n```\nend", u"`", u""},
+    });
+}
+
+// What is below turned around when a fence went missing: putting it back mends all of it.
+TEST(FencedCodeCorrection, AFenceIsPutBack) {
+    expectEach({
+        {u"``‸\nx\n```\n\ntext\n\n```\ny\n```\nend", u"`", u""},
+        {u"``‸\nx\n```\n\ntext\n\n```js\ny\n```\nend", u"`", u""},
+        {u"> ``‸\n> x\n> ```\n> ```js\n> y\n> ```\nend", u"`", u""},
+        {u"- a\n``‸\nx\n```\nend", u"`", u""}, // no line of the item
+        {u"- a\n  - b\n  ``‸\n  x\n  ```\nend", u"`", u""},
+        {u"> > a\n> ``‸\n> x\n> ```\nend", u"`", u""},
+        {u"``‸\nx\n````\nend", u"`", u""},
+        {u"```\nx\n``‸\n\n```\ny\n```\nend", u"`", u""}, // takes nothing's place
+        {u"``⟦`⟧\n\n```\ny\n```\nend", u"", u""},
+    });
+    // Blocks below that are as they should be stay so.
+    expectEach({
+        {u"``‸\n\n```\ny\n```\nend", u"`", u"```‸\n```\n\n```\ny\n```\nend"},
+        {u"``‸\n\n```\ny\n```\n\n```js\nz\n```", u"`", u"```‸\n```\n\n```\ny\n```\n\n```js\nz\n```"},
+        {u"``‸\n\n````\n```js\n```\n````", u"`", u"```‸\n```\n\n````\n```js\n```\n````"},
+        {u"> ``‸\n\n```\ny", u"`", u"> ```‸\n> ```\n\n```\ny"}, // open, but not in the quote
+        {u"- ``‸\n\n```\ny", u"`", u"- ```‸\n  ```\n\n```\ny"},
+        {u"- a\n  ``‸\n\n```\ny", u"`", u"- a\n  ```‸\n  ```\n\n```\ny"},
+        {u"```\nx\n``‸\n```\n\n```js\ny", u"`", u"```\nx\n```‸\n\n```js\ny"},
+    });
+}
+
+TEST(FencedCodeCorrection, CodeWithFencesKeepsItsOwn) {
+    expectEach({
+        {u"```⟦`⟧\n```\nx\n```\n````\nend", u"", u""},
+        {u"```‸\n```\nx\n```\n````\nend", u"`", u""},
+        {u"````\n```\nx\n```\n```⟦`⟧\nend", u"", u""},
+        {u"```‸md\n```js\nx\n```\n````\nend", u"`", u""},
+        {u"```\n```‸\nx\n```\n````\nend", u"`", u"````\n````‸\nx\n```\n````\nend"}, // the closing one
+        {u"````⟦`⟧\n```\nx\n```\n`````\nend", u"", u"````‸\n```\nx\n```\n````\nend"},
+        {u"```⟦`⟧\na ```\n    ```\n````\nend", u"", u"```‸\na ```\n    ```\n```\nend"},
+        {u"```‸\nx\n```\n````\ny\n````\n", u"`", u"````‸\nx\n````\n````\ny\n````\n"},
     });
 }
 

@@ -52,6 +52,7 @@ TEST(MathBlockCorrection, NoFenceNoOpinion) {
         {u"<div>\n$‸", u"$", u""},
         {u"<div>\n‸", u"$$", u""},
         {u"# $‸", u"$", u""},
+        {u"$‸\n---", u"$", u""},   // a heading
         {u"$$\nx\n$‸", u"$", u""}, // closes an open block
         {u"$$\nx\n‸", u"$$", u""},
         {u"‸", u"$$\nx\n$$", u""},
@@ -81,6 +82,15 @@ TEST(MathBlockCorrection, LineBreakReleasesTheFence) {
                                         {u"\\$$x‸", u"\n", u""},
                                         {u"# \\$$‸", u"\n", u""},
                                     });
+    // The other half is there.
+    expectEach(IndentStyle::Spaces,
+               {
+                   {u"\\$$‸\nx\n$$\nend", u"\n", u"$$\n‸\nx\n$$\nend"},
+                   {u"- \\$$‸\n  x\n  $$\n- end", u"\n", u"- $$\n  ‸\n  x\n  $$\n- end"},
+                   {u"- a\n\\$$‸\nx\n$$\nend", u"\n", u"- a\n$$\n‸\nx\n$$\nend"},
+                   {u"> \\$$‸\n\n$$\nend", u"\n", u"> $$\n> ‸\n> $$\n\n$$\nend"}, // not in the quote
+                   {u"\\$$‸\n$$\nx\n$$\nend", u"\n", u"$$\n‸\n$$\n$$\nx\n$$\nend"},
+               });
 }
 
 TEST(MathBlockCorrection, TabsReachTheContent) {
@@ -107,6 +117,12 @@ TEST(MathBlockCorrection, EscapeGoesWithItsReason) {
                                         {u"⟦\\⟧$$", u"", u""},
                                         {u"‸\\$$", u"x", u""},
                                         {u"\\$‸", u"x", u""},
+                                        {u"\\$$‸\nend", u"\nE=mc\n$$", u"$$\nE=mc\n$$‸\nend"},
+                                        {u"> \\$$‸", u"\r\n> x", u"> $$\r\n> x‸"},
+                                        {u"\\$$‸", u"\r\n", u""},
+                                        {u"- \\$$⟦\n⟧- x", u"", u""}, // joins lines
+                                        {u"\\$$⟦\r\n⟧x", u"", u""},
+                                        {u"\\$$⟦\nx⟧y", u"", u"$$‸y"},
                                     });
 }
 
@@ -119,6 +135,15 @@ TEST(MathBlockCorrection, TypedFenceReplacesTheClosingOne) {
                                         {u"$$‸\n\n$$\ny", u"x", u"$$x‸\ny"},
                                         {u"$⟦$⟧\n$$", u"", u"$‸"},
                                         {u"$$‸\nx\n$$", u"x", u""},
+                                        {u"$$\nx\n  $‸\n$$\nend", u"$", u"$$\nx\n  $$‸\nend"},
+                                        {u"- $$\n     $‸\n  $$", u"$", u"- $$\n     $$‸"},
+                                        {u"$$\nx\n    $‸\n$$", u"$", u""},
+                                        {u"$$\nx\n$‸\n\n$$\ny\n$$\nend", u"$", u""}, // opens the next
+                                        {u"$⟦$⟧\n\n$$\ny\n$$\nend", u"", u""},
+                                        {u"‸$$\n\n$$\nend", u" ", u""},
+                                        {u"‸$$\n$$\nend", u"x", u""},
+                                        {u" ⟦ ⟧$$\n$$\nend", u"", u""},
+                                        {u"⟦ $$⟧\n$$\nend", u"", u"‸\nend"},
                                     });
 }
 

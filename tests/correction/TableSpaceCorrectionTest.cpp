@@ -45,6 +45,9 @@ TEST(TableSpaceCorrection, Rows) {
         {u"| x·‸ |  |", u"y", u"| x y‸ |  |"},
         {u"| x··‸ |  |\n", u"😀", u"| x  😀‸ |  |\n"},
         {u"| x·‸|  |", u"y", u"| x y‸ |  |"},
+        {u"| x··‸ |  |", u"|", u"| x  |‸ |  |"},
+        {u"| x·‸|  |", u"| y", u"| x | y‸|  |"},
+        {u"| x·‸ |  |", u"y|", u""},
         {u"| 10·‸km |  |", u"y", u""}, // the user's own
         {u"| x ·y‸ |  |", u"z", u""},
         // beside pipes
