@@ -25,12 +25,13 @@ TEST(CalloutCorrection, KeepsASpaceBehindTheMarker) {
         {u"> [!NOTE]‸ x", u" ", u""},
         {u"> [!NOTE]⟦ ⟧x", u"", u"> [!NOTE] ‸x"},
         {u"> [!NOTE]⟦ \n> ⟧x", u"", u"> [!NOTE] ‸x"},
+        {u"> [!NOTE]⟦\n⟧> x", u"", u"> [!NOTE] ‸x"},
+        {u"- > [!NOTE]⟦\r\n⟧  >   - x", u"", u"- > [!NOTE] ‸- x"},
+        {u"> [!NOTE]⟦\n⟧x", u"", u"> [!NOTE] ‸x"},
         {u"> [!NOTE]⟦ ⟧", u"", u""},
         {u"> [!NOTE]⟦ ⟧ x", u"", u""},
         {u"> [!NOTE]⟦ x⟧\n> b", u"", u""},
         {u"> [!NOTE]⟦ x⟧\r\n> b", u"", u""},
-        {u"> [!NOTE]⟦\n⟧> x", u"", u""}, // joins lines
-        {u"> [!NOTE]⟦\r\n⟧> x", u"", u""},
         {u"> ‸[!NOTE]", u"x", u""}, // in front of it
         {u"> [!NOTE] ‸x", u"y", u""},
         {u"> [!NOTE‸]", u"x", u""},
