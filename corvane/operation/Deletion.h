@@ -32,7 +32,8 @@ inline bool isInType(const Ondo::Node* node, std::uint16_t type) {
     return node->type == type || node->hasAncestorOfType(type);
 }
 
-/// What answers for the node beside the caret: the row of its type, or nothing.
+/// What answers for the node beside the caret: the row of its type, or nothing. That node is a leaf or what a
+/// text is the content of. So a table has no row: what stands at its start is a pipe or a blank.
 template <class Handler>
 struct DeletionRow {
     std::uint16_t type;

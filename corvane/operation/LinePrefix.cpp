@@ -23,7 +23,6 @@ const Node* deepestFirstBlock(const Node* node) {
     return node;
 }
 
-/// To the next leaf.
 std::vector<std::int64_t> columnsOf(std::u16string_view text) {
     std::vector<std::int64_t> columns{0};
     for (const char16_t unit : text)
@@ -51,6 +50,17 @@ LinePrefix::LinePrefix(const Ondo::Tree& tree, Node::Iterator line)
     text = tree.markdownIn({offset, end - offset});
     columns = columnsOf(text);
     isBlank = isLineEnd(unitAt(tree, end));
+}
+
+std::int64_t LinePrefix::columnBehindQuote(const Marker& marker) const {
+    const bool isBare = marker.end == marker.start + 1;
+    const bool isBeforeTab = isBare && marker.end < size() && text[marker.end] == u'\t';
+    return columns[marker.end] + (isBeforeTab ? 1 : 0);
+}
+
+bool LinePrefix::isTextBehindNarrowTab(const Marker& marker) const {
+    return marker.end + 1 == size() && text[marker.end] == u'\t' && text[marker.end - 1] != u' ' &&
+           columns[marker.end] + 1 == textColumn();
 }
 
 std::optional<std::int64_t> LinePrefix::columnBehindNextTab(std::size_t at, std::int64_t column) const {

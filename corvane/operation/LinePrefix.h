@@ -40,6 +40,13 @@ struct LinePrefix {
 
     std::size_t size() const { return text.size(); }
     std::int64_t textColumn() const { return columns.back(); }
+    /// In the note, behind the prefix.
+    std::int64_t textOffset() const { return offset + static_cast<std::int64_t>(size()); }
+    /// Where the text behind a quote's marker is reckoned from: a tab gives its first column to a bare ">".
+    std::int64_t columnBehindQuote(const Marker& marker) const;
+    /// Whether nothing but a tab of one column stands between an item's marker, which has no blank of its
+    /// own, and the line's text.
+    bool isTextBehindNarrowTab(const Marker& marker) const;
     /// Where the blanks behind a marker end, or those of the line behind the marker -1.
     std::size_t blanksEnd(std::size_t marker) const {
         return marker + 1 < markers.size() ? markers[marker + 1].start : size();

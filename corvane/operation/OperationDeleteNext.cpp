@@ -1,6 +1,7 @@
 #include "corvane/operation/OperationDeleteNext.h"
 
 #include "corvane/operation/Deletion.h"
+#include "corvane/operation/IndentInfo.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/operation/OperationIndent.h"
 
@@ -100,7 +101,10 @@ DeleteNext::Answer DeleteNext::deleteLineEnding(const Ondo::Tree&, const Node::I
     if (isInType(lineEnding.node, Ondo::ONDO_TABLE_NODE)) return caretOnly(caret);
     if (next->type == Ondo::ONDO_TABLE_NODE && !isInBlank) return caretOnly(caret);
 
-    if (!isInBlank && areInOneFirstLevelContainer(lineEnding.node, next.node))
+    // The line of an empty item is no blank one: what comes up would nest in it by its marker.
+    Node::Iterator line = lineEnding;
+    line.beginningOfLine();
+    if (!isBlankLine(line) && areInOneFirstLevelContainer(lineEnding.node, next.node))
         return deletion(caret, lineEnding->charCount + prefixLength(next));
     const Node* const container = containerAround(lineEnding.node);
     if (isListItem(container) && container == containerAround(next.node))

@@ -77,6 +77,13 @@ bool isFenced(const Node* block) {
     return block->type == Ondo::ONDO_FENCED_CODE_NODE || block->type == Ondo::ONDO_MATH_BLOCK_NODE;
 }
 
+/// There the editor deletes a single blank: joined to the line above the fence would be code, and the block
+/// open.
+bool isBeforeClosingFence(const Node* space) {
+    return isOfType(space->nextSibling, Ondo::ONDO_FENCED_CODE_CLOSE_MARKER_NODE) ||
+           isOfType(space->nextSibling, Ondo::ONDO_MATH_BLOCK_CLOSE_MARKER_NODE);
+}
+
 /// From a space back over the markers in front of it to what ends the line above; to another node when the
 /// line begins with no more than its block does.
 Node::Iterator lineEndingAbove(Node::Iterator space) {
@@ -178,7 +185,7 @@ DeletePrevious::Answer DeletePrevious::deleteNode(const Ondo::Tree&, const Node:
 
 DeletePrevious::Answer DeletePrevious::deleteSpace(const Ondo::Tree& tree,
                                                    const Node::Iterator& space) const {
-    if (!mayBeIndentation(space)) return {};
+    if (!mayBeIndentation(space) || isBeforeClosingFence(space.node)) return {};
     const Node* const block = space->parentBlock();
     if (isFenced(block) && !startsOnLine(space, block)) {
         Node::Iterator above = space;

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "corvane/operation/IndentInfo.h"
 #include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/operation/PrefixNormalizer.h"
@@ -27,11 +28,6 @@ Node::Iterator firstLevelBlockAt(const Ondo::Tree& tree, std::int64_t offset) {
     while (block.node && block.level > 1)
         block.parent();
     return block;
-}
-
-void toNextLine(Node::Iterator& line) {
-    line.endOfLine();
-    line.nextInSequence();
 }
 
 } // namespace

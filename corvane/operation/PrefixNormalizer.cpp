@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <limits>
-#include <string_view>
 #include <utility>
+
+#include "corvane/operation/UnindentedText.h"
 
 namespace CVN::Operation {
 
@@ -31,46 +32,12 @@ std::vector<const Node*> containersAround(const Node* block) {
     return containers;
 }
 
-/// The text of a line from an offset on.
-std::u16string restOfLine(const Ondo::Tree& tree, std::int64_t offset) {
-    std::u16string rest;
-    for (char16_t unit = unitAt(tree, offset); unit && unit != u'\n' && unit != u'\r';
-         unit = unitAt(tree, ++offset))
-        rest += unit;
-    return rest;
-}
-
-/// Whether a line of a paragraph stays one without the blanks, or the missing marker, that keep it one.
-bool continuesParagraph(const Ondo::Tree& tree, std::int64_t textOffset) {
-    const char16_t first = unitAt(tree, textOffset);
-    if (first > 0x7f || (first >= u'a' && first <= u'z') || (first >= u'A' && first <= u'Z')) return true;
-    const Ondo::Tree probe(u"x\n" + restOfLine(tree, textOffset), tree.ruleSet);
-    const Node* const block = probe.root->firstChild;
-    return block->type == Ondo::ONDO_PARAGRAPH_NODE && !block->nextSibling;
-}
-
-/// Whether lines between the fences look like one, and are none by their indentation alone.
-bool holdsFenceLikeLines(std::u16string_view block) {
-    int count = 0;
-    for (auto at = block.find(u'\n'); at != block.npos; at = block.find(u'\n', at)) {
-        at = std::min(block.find_first_not_of(u" \t>\n\r", at), block.size());
-        for (const std::u16string_view fence : {u"```", u"~~~", u"$$"})
-            count += block.substr(at, fence.size()) == fence ? 1 : 0;
-    }
-    return count > 1;
-}
-
-/// Whether a line behind the first looks like what makes a heading of the lines above.
-bool holdsUnderline(std::u16string_view text) {
-    for (auto at = text.find_first_of(u"\n\r"); at < text.size(); at = text.find_first_of(u"\n\r", at)) {
-        at = text.find_first_not_of(u" \t>\n\r", at);
-        if (at >= text.size()) return false;
-        if (text[at] != u'=' && text[at] != u'-') continue;
-        at = text.find_first_not_of(text[at], at);
-        at = text.find_first_not_of(u" \t", at);
-        if (at >= text.size() || text[at] == u'\n' || text[at] == u'\r') return true;
-    }
-    return false;
+/// Whether the block has lines between its fences.
+bool holdsFencedContent(const Node* block) {
+    return block->hasChildWhere([](const Node* child) {
+        return child->type == Ondo::ONDO_FENCED_CODE_CONTENT_ATTRIBUTE_NODE ||
+               child->type == Ondo::ONDO_MATH_BLOCK_CONTENT_ATTRIBUTE_NODE;
+    });
 }
 
 constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
@@ -130,14 +97,16 @@ void PrefixNormalizer::passMarker(std::size_t depth, const LinePrefix::Marker& m
 }
 
 void PrefixNormalizer::passQuoteMarker(const LinePrefix::Marker& marker) {
-    const bool isBare = marker.end == marker.start + 1;
-    // A tab gives its first column to the marker.
-    const bool isBeforeTab = isBare && marker.end < actual_->size() && actual_->text[marker.end] == u'\t';
+    const std::int64_t textColumn = actual_->columnBehindQuote(marker);
     const std::int64_t end = actual_->offset + static_cast<std::int64_t>(marker.end);
-    keepsForm_ = isBare && !isBeforeTab && end == keptMarkerEnd_;
+    const bool isBare = marker.end == marker.start + 1 && textColumn == actual_->columns[marker.end];
+    // The column of a fence counts from the start of its line, so that a column less is one more in the code.
+    const bool movesCode =
+        actual_->startsBlock && isFenced(actual_->block) && holdsFencedContent(actual_->block);
+    keepsForm_ = isBare && !movesCode && end == keptMarkerEnd_;
     text_ += keepsForm_ ? u">" : u"> ";
     column_ += keepsForm_ ? 1 : 2;
-    old_.set(actual_->columns[marker.end] + (isBeforeTab ? 1 : 0));
+    old_.set(textColumn);
     new_.set(column_);
 }
 
@@ -146,11 +115,17 @@ void PrefixNormalizer::passItemMarker(std::size_t depth, const LinePrefix::Marke
     const std::int64_t start = actual_->columns[marker.start];
     if (last_ != Last::ItemMarker && start > old_.following && keepsPlace(depth))
         writeTo(new_.base + start - old_.following);
+    const std::int64_t moved = column_ - start;
+    // One blank in the place of a tab would make a task's box of what looks like one.
+    const std::int64_t shift =
+        moved != 0 && actual_->isTextBehindNarrowTab(marker) && unitAt(tree_, actual_->textOffset()) == u'['
+            ? moved + 1
+            : moved;
     frames_[depth].needed = columns.content - old_.following;
-    frames_[depth].newNeeded = column_ + columns.content - start - new_.following;
+    frames_[depth].newNeeded = columns.content + shift - new_.following;
     lists_[marker.container->parent].lastNeeded = frames_[depth].newNeeded;
     old_ = {columns.text, columns.content};
-    new_ = {column_ + columns.text - start, column_ + columns.content - start};
+    new_ = {columns.text + shift, columns.content + shift};
     text_ += actual_->text.substr(marker.start, marker.end - marker.start);
     column_ += static_cast<std::int64_t>(marker.end - marker.start);
 }
@@ -164,14 +139,14 @@ void PrefixNormalizer::passIndentation(const Frame& frame) {
     if (behindTab) return old_.set(*behindTab);
     isLazy_ = !actual_->isBlank && actual_->columns[end] - old_.base < frame.needed;
     if (isLazy_)
-        matched_ = {text_, column_, new_, {pending_.begin(), pending_.end() - 1}, false};
+        matched_ = {text_, column_, new_, {pending_.begin(), pending_.end() - 1}, frame.newNeeded, false};
     else
         old_.set(old_.base + frame.needed);
 }
 
 void PrefixNormalizer::passMissingQuote() {
     indentation(looseLimit());
-    if (!isLazy_) matched_ = {text_, column_, new_, {}, true};
+    if (!isLazy_) matched_ = {text_, column_, new_, {}, 0, true};
     text_ += u"> ";
     column_ += 2;
     new_.set(column_);
@@ -189,8 +164,9 @@ std::int64_t PrefixNormalizer::surplusOf(const LinePrefix& line, std::size_t dep
     std::size_t at = 0;
     for (std::size_t i = 0; i < depth; ++i) {
         if (marker < line.markers.size() && line.markers[marker].container == frames_[i].container) {
-            at = line.markers[marker++].end;
-            base = line.columns[at];
+            // The marker of a quote: an item that holds a list has its own above.
+            at = line.markers[marker].end;
+            base = line.columnBehindQuote(line.markers[marker++]);
         } else {
             const auto behindTab = isSimplified_ ? line.columnBehindNextTab(at, base) : std::nullopt;
             base = behindTab ? *behindTab : base + frames_[i].needed;
@@ -200,37 +176,45 @@ std::int64_t PrefixNormalizer::surplusOf(const LinePrefix& line, std::size_t dep
 }
 
 bool PrefixNormalizer::isLeftAsItStands(const Node::Iterator& block, std::int64_t surplus) const {
-    if (block.offset >= scopeEnd_ || surplus >= codeWidth) return true;
+    if (block.offset >= scopeEnd_) return true;
+    if (surplus >= codeWidth) return isSimplified_ || !staysBlock(tree_, block);
     if (isContainer(block.node)) return false;
-    if (!isListItem(block->parent) || isSimplified_) return true;
+    if (!isListItem(block->parent)) return true;
     if (isFenced(block.node)) return holdsFenceLikeLines(tree_.markdownIn({block.offset, block->charCount}));
+    if (block->type == Ondo::ONDO_PARAGRAPH_NODE) return isSimplified_;
     return block->type == Ondo::ONDO_INDENTED_CODE_NODE || block->type == Ondo::ONDO_HTML_BLOCK_NODE;
 }
 
-bool PrefixNormalizer::findKeepsPlace(Node::Iterator list, std::size_t depth) const {
+/// Looks behind a list for the block that decides. The lists before that block share the answer.
+void PrefixNormalizer::findKeepsPlace(Node::Iterator block, std::size_t depth) {
     constexpr std::int64_t leastNeeded = 2;
-    for (;;) {
+    std::vector<const Node*> lists;
+    bool keeps = false;
+    while (!keeps && isOfType(block.node, Ondo::ONDO_LIST_NODE) && block.offset < scopeEnd_) {
+        lists.push_back(block.node);
         do
-            list.nextSibling();
-        while (isOfType(list.node, Ondo::ONDO_BLANK_LINE_NODE));
-        if (!list.node) return false;
-        const LinePrefix first(tree_, list);
-        const std::int64_t surplus = surplusOf(first, depth);
-        if (surplus < leastNeeded) return false;
-        if (list->type != Ondo::ONDO_LIST_NODE || list.offset >= scopeEnd_)
-            return isLeftAsItStands(list, surplus);
+            block.nextSibling();
+        while (isBlank(block.node));
+        if (!block.node) break;
+        const std::int64_t surplus = surplusOf(LinePrefix(tree_, block), depth);
+        if (surplus < leastNeeded) break;
+        const bool isDecided = block->type != Ondo::ONDO_LIST_NODE || block.offset >= scopeEnd_;
+        keeps = isDecided && isLeftAsItStands(block, surplus);
     }
+    for (const Node* list : lists)
+        lists_[list].keepsPlace = keeps;
 }
 
 bool PrefixNormalizer::keepsPlace(std::size_t depth) {
     const Node* const list = frames_[depth].container->parent;
-    std::optional<bool>& keeps = lists_[list].keepsPlace;
-    if (keeps) return *keeps;
-    Node::Iterator at = line_;
-    toFirstLeaf(at);
-    while (at.node != list)
-        at.parent();
-    keeps = findKeepsPlace(at, depth);
+    const std::optional<bool>& keeps = lists_[list].keepsPlace;
+    if (!keeps) {
+        Node::Iterator at = line_;
+        toFirstLeaf(at);
+        while (at.node != list)
+            at.parent();
+        findKeepsPlace(at, depth);
+    }
     return *keeps;
 }
 
@@ -250,8 +234,7 @@ void PrefixNormalizer::writeRest() {
 void PrefixNormalizer::writeBlankLine() {
     const bool isBehindMarker = last_ == Last::QuoteMarker || last_ == Last::ItemMarker;
     // Without its blanks the line would be half of a CRLF.
-    const std::int64_t end = actual_->offset + static_cast<std::int64_t>(actual_->size());
-    if (unitAt(tree_, actual_->offset - 1) == u'\r' && unitAt(tree_, end) == u'\n') return;
+    if (unitAt(tree_, actual_->offset - 1) == u'\r' && unitAt(tree_, actual_->textOffset()) == u'\n') return;
     isBehindMarker ? keepBlanksBehindMarker() : dropBlanks();
 }
 
@@ -267,9 +250,13 @@ void PrefixNormalizer::writeFence() {
 
 /// Fenced lines give up the columns that the fence stands at.
 void PrefixNormalizer::writeFencedContent() {
-    const std::int64_t column = newFenceColumn_ - (keepsForm_ ? 1 : 0);
-    indentation(column);
-    writeTo(column);
+    // A tab would bring what looks like a closing fence close enough to be one.
+    const bool isHeldOff =
+        isSimplified_ && surplus() >= codeWidth && mayBeFence(unitAt(tree_, actual_->textOffset()));
+    indentation(isHeldOff ? neededColumn() : newFenceColumn_);
+    // Where the code begins with the text, the columns before it don't matter.
+    const bool isFree = keepsForm_ && actual_->textColumn() <= fenceColumn_;
+    if (!isFree) writeTo(newFenceColumn_);
     keepBlanksFrom(fenceColumn_);
 }
 
@@ -296,18 +283,24 @@ bool PrefixNormalizer::standsInPendingItems() const {
     const bool hasTab = actual_->text.find(u'\t', at_) != std::u16string::npos;
     if (hasTab && (isSimplified_ || column_ != columns[at_])) return false;
     const std::int64_t newSurplus = column_ + actual_->textColumn() - columns[at_] - neededColumn();
-    return newSurplus >= 0 && (newSurplus < codeWidth || !actual_->startsBlock);
+    return newSurplus >= 0 && (newSurplus < room() || !actual_->startsBlock);
 }
 
 void PrefixNormalizer::writeText() {
     if (last_ == Last::QuoteMarker || last_ == Last::ItemMarker) return keepBlanksBehindMarker();
     if (isSimplified_ && actual_->block->type == Ondo::ONDO_PARAGRAPH_NODE)
         return writeAndKeepBlanks(surplus());
-    const std::int64_t textOffset = actual_->offset + static_cast<std::int64_t>(actual_->size());
-    if (surplus() >= codeWidth && (actual_->startsBlock || !continuesParagraph(tree_, textOffset)))
-        return writeAndKeepBlanks(surplus());
+    if (surplus() >= codeWidth && !staysWithoutBlanks()) return writeAndKeepBlanks(surplus());
     indentation(looseLimit());
     dropBlanks();
+}
+
+bool PrefixNormalizer::staysWithoutBlanks() const {
+    if (!actual_->startsBlock) return continuesParagraph(tree_, actual_->textOffset());
+    Node::Iterator block = line_;
+    while (block.node != actual_->block)
+        block.firstChild();
+    return !isSimplified_ && staysBlock(tree_, block);
 }
 
 /// A paragraph with lazy lines is neither the text of an underline nor a definition. So it keeps them where
@@ -323,19 +316,24 @@ bool PrefixNormalizer::mustStayLazy() {
     return mustStayLazy_;
 }
 
+/// A line that only its blanks keep from being a block has more of them than a block may, but must not get
+/// into the item by these.
+bool PrefixNormalizer::mayStandLazy() const {
+    return matched_.isBeforeQuote || surplus() < codeWidth || codeWidth < matched_.needed;
+}
+
 void PrefixNormalizer::writeLazyText() {
-    // Without the blanks of the item, but still further in than a block may be, a line could get into the
-    // item.
-    const bool mayStayLazy = matched_.isBeforeQuote || surplus() < codeWidth;
-    const bool staysLazy = mayStayLazy && mustStayLazy();
+    const bool isPlain = continuesParagraph(tree_, actual_->textOffset());
+    // Outside the item a marker that can't end a paragraph would still end the item.
+    const bool isFree = isPlain && !mayBeItem(unitAt(tree_, actual_->textOffset()));
+    const bool staysLazy = (isFree || mayStandLazy()) && mustStayLazy();
     if (staysLazy) {
         text_ = matched_.text;
         column_ = matched_.column;
         new_ = matched_.side;
         pending_ = matched_.pending;
     }
-    const std::int64_t textOffset = actual_->offset + static_cast<std::int64_t>(actual_->size());
-    const bool isPushedIn = staysLazy ? surplus() >= codeWidth : !continuesParagraph(tree_, textOffset);
+    const bool isPushedIn = staysLazy ? surplus() >= codeWidth && !isFree : !isPlain;
     const std::int64_t limit = staysLazy ? neededColumn() : looseLimit();
     indentation(isPushedIn ? neededColumn() + codeWidth : limit);
     if (isPushedIn) writeTo(new_.base + codeWidth);
@@ -344,15 +342,18 @@ void PrefixNormalizer::writeLazyText() {
 
 // Blanks
 
-/// Text may stand up to three columns further in than it needs, but not in the item before it.
-std::int64_t PrefixNormalizer::looseLimit() const {
-    if (isSimplified_) return unlimited;
+/// How many columns further in than it needs a block may not stand: it would be code, or in the item before.
+std::int64_t PrefixNormalizer::room() const {
     const Node* before = line_->isBlock() ? line_->previousSibling : nullptr;
-    while (isOfType(before, Ondo::ONDO_BLANK_LINE_NODE))
+    while (isBlank(before))
         before = before->previousSibling;
     const auto list = lists_.find(isListItem(before) ? before->parent : before);
-    const std::int64_t room = list == lists_.end() ? codeWidth : std::min(codeWidth, list->second.lastNeeded);
-    return neededColumn() + room - 1;
+    return list == lists_.end() ? codeWidth : std::min(codeWidth, list->second.lastNeeded);
+}
+
+/// The column that tabs in front of a text may reach.
+std::int64_t PrefixNormalizer::looseLimit() const {
+    return isSimplified_ ? unlimited : neededColumn() + room() - 1;
 }
 
 /// The indentation of items that have no marker on the line. A tab for each, or as many blanks as the item

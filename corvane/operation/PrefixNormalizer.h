@@ -62,7 +62,7 @@ private:
     void passMissingQuote();
 
     std::int64_t surplusOf(const LinePrefix& line, std::size_t depth) const;
-    bool findKeepsPlace(Ondo::Node::Iterator list, std::size_t depth) const;
+    void findKeepsPlace(Ondo::Node::Iterator list, std::size_t depth);
     bool keepsPlace(std::size_t depth);
     bool isLeftAsItStands(const Ondo::Node::Iterator& block, std::int64_t surplus) const;
 
@@ -74,7 +74,9 @@ private:
     void writeHtml();
     bool standsInPendingItems() const;
     void writeText();
+    bool staysWithoutBlanks() const;
     bool mustStayLazy();
+    bool mayStandLazy() const;
     void writeLazyText();
 
     void indentation(std::int64_t limit);
@@ -85,6 +87,7 @@ private:
     void dropBlanks();
     /// The column that the items which are yet to be written need.
     std::int64_t neededColumn() const { return std::accumulate(pending_.begin(), pending_.end(), new_.base); }
+    std::int64_t room() const;
     std::int64_t looseLimit() const;
     std::int64_t surplus() const { return actual_->textColumn() - old_.base; }
 
@@ -120,6 +123,7 @@ private:
         std::int64_t column = 0;
         Side side;
         std::vector<std::int64_t> pending;
+        std::int64_t needed = 0; ///< by that container, as it will be
         bool isBeforeQuote = false;
     };
     Matched matched_;

@@ -64,6 +64,13 @@ TEST(DeleteNext, BringsTheNextLineUpWithoutItsPrefix) {
                                   {u"> > a‸\n>  > 😀", u"> > a‸😀"},
                                   {u"> - a‸\n>   1) b", u"> - a‸b"},
                                   {u"> a‸\nb", u"> a‸b"},
+                                  // An empty item doesn't take the next one in.
+                                  {u"- ‸\n- c", u"- ‸c"},
+                                  {u"- [ ] ‸\r\n- [ ] c", u"- [ ] ‸c"},
+                                  {u"1. ‸\n2. c", u"1. ‸c"},
+                                  {u"> - ‸\n> - c", u"> - ‸c"},
+                                  {u"- a\n  - ‸\n  - c", u"- a\n  - ‸c"},
+                                  {u"- > ‸\n  > c", u"- > ‸c"},
                                   // Another container keeps its marker.
                                   {u"- a‸\n\nb", u"- a‸\nb"},
                                   {u"- a‸\n* b", u"- a‸* b"},

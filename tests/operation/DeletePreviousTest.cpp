@@ -100,6 +100,10 @@ TEST(DeletePrevious, TakesIndentationWithWhatMadeIt) {
                               // Code: a line goes up with its indentation.
                               {u"- ```\n  a\n  ‸b\n  ```", u"- ```\n  a‸b\n  ```"},
                               {u"> - $$\n>   a\n>   ‸b", u"> - $$\n>   a‸b"},
+                              // In front of a closing fence it would open the block.
+                              {u"- ```\n  a\n  ‸```", u""},
+                              {u"> $$\n> a\n>  ‸$$", u""},
+                              {u"- ```\n  ‸```", u""},
                               {u"    ‸a", u"‸a"},
                               {u"a\n\n    b\n    ‸c", u"a\n\n    b\n‸c"},
                               // Blank lines behind a list.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 
 #include "tests/support/Caret.h"
@@ -54,7 +55,49 @@ TEST(NormalizeIndentation, OfItems) {
                                {u"- a\n      b‸", u"- a\n  b‸"},
                            });
     // There the blanks are text.
-    expectEach(withSpaces, {{u"- a\n   b‸", u""}, {u"- a\n\tb‸", u"- a\n  b‸"}}, RuleConfig::Simplified);
+    expectEach(withSpaces,
+               {
+                   {u"- a\n   b‸", u""},
+                   {u"- a\n\tb‸", u"- a\n  b‸"},
+                   // Only a paragraph is left as it stands.
+                   {u"- a\n   - b\n\n    c‸", u""},
+                   {u"- a\n   - b\n    # h‸", u"- a\n  - b\n  # h‸"},
+                   {u"- a\n   - b\n    ---‸", u"- a\n  - b\n  ---‸"},
+               },
+               RuleConfig::Simplified);
+    expectEach(withTabs, {{u"- a\n   - b\n    ---‸", u"- a\n\t- b\n\t---‸"}}, RuleConfig::Simplified);
+    // A tab would make a closing fence of the code.
+    expectEach(withTabs, {{u"- [ ] ```\n      ```‸", u""}}, RuleConfig::Simplified);
+    // A line without the blanks of its item keeps the paragraph from being a definition.
+    expectEach(withSpaces, {{u"  -  [a]:\n\t$$$‸", u"-  [a]:\n$$$‸"}}, RuleConfig::Commonmark);
+}
+
+TEST(NormalizeIndentation, OfTasks) {
+    expectEach(withSpaces, {
+                               {u"- [ ] a\n\n      b‸", u"- [ ] a\n\n  b‸"},
+                               {u"- [ ] a\n\n      b\n      c‸", u"- [ ] a\n\n  b\n  c‸"},
+                               {u"> - [x] a\n>\n>         b‸", u"> - [x] a\n> \n>   b‸"},
+                               {u"- [ ] a\n\n   -    b\n\n      c‸", u"- [ ] a\n\n  -    b\n\n  c‸"},
+                               // What would become a block there.
+                               {u"- [ ] a\n\n      # b‸", u""},
+                               {u"- [ ] a\n\n      [b]: c‸", u""},
+                               {u"- [ ] a\n\n      |b|\n      |-|‸", u"- [ ] a\n\n      |b|\n  |-|‸"},
+                               // Nor becomes a task what is none.
+                               {u"  -\t[ ] a\n\tb‸", u"-  [ ] a\n   b‸"},
+                           });
+}
+
+/// HTML keeps its blanks, but not so many that it would get into the nested item above.
+TEST(NormalizeIndentation, OfHtmlBehindANestedItem) {
+    for (const RuleConfig::RuleSet rules : Ondo::Test::allRuleSets)
+        expectEach(withSpaces,
+                   {
+                       {u"  - a\n    - b\n    <div>‸", u"- a\n  - b\n  <div>‸"},
+                       {u"  - a\n\n    - b\n\n    <img src=\"x\">‸", u"- a\n\n  - b\n\n  <img src=\"x\">‸"},
+                       {u"- a\n  - b\n   <div>‸", u""},
+                   },
+                   rules);
+    expectEach(withTabs, {{u" * -\n\t<v>‸", u"* -\n   <v>‸"}}, RuleConfig::Commonmark);
 }
 
 TEST(NormalizeIndentation, OfQuotes) {
@@ -69,6 +112,7 @@ TEST(NormalizeIndentation, OfQuotes) {
                                {u"- >a\n  >\n   > - b\n   >  c‸", u"- > a\n  > \n  > - b\n  >   c‸"},
                                {u">1. a\n>\n>   b‸", u"> 1. a\n> \n>   b‸"},
                                {u">\ta‸", u">   a‸"},
+                               {u">  - a\n>\n >\tb‸", u"> - a\n> \n>  b‸"},
                                {u">[!note] a‸", u"> [!note] a‸"},
                            });
 }
@@ -82,6 +126,11 @@ TEST(NormalizeIndentation, OfCode) {
                                {u"- ```\n  a\n\n  b‸\n  ```", u"- ```\n  a\n  \n  b‸\n  ```"},
                                {u">```\n>  a‸\n>```", u"> ```\n>   a‸\n> ```"},
                                {u"- $$\n  a‸\n   $$", u"- $$\n  a‸\n  $$"},
+                               // A fence gets the blank that its lines get, or each would have one more.
+                               {u">‸```\n>x\n>```", u"> ‸```\n> x\n> ```"},
+                               {u"> >‸$$\n> >x\n> >$$", u"> > ‸$$\n> > x\n> > $$"},
+                               {u">‸```", u""},
+                               {u">```\n>‸x\n>```", u"> ```\n>‸x\n> ```"},
                                // The fence keeps its place where it tells content from a fence.
                                {u"- a\n\n    ```\n      ```‸\n  ```", u""},
                            });
@@ -96,6 +145,15 @@ TEST(NormalizeIndentation, WithTabs) {
                              {u"> - a\n>   b‸", u"> - a\n> \tb‸"},
                              {u"> 1. a\n>    b‸", u""},
                          });
+}
+
+/// Some 100 ms; with a scan of the lists behind each one it would be half a minute.
+TEST(NormalizeIndentation, OfManyListsInARow) {
+    std::u16string note;
+    for (int i = 0; i < 8000; ++i)
+        note += u"  - a\n\n  1. b\n\n";
+    const Ondo::Tree tree(note);
+    EXPECT_EQ(withSpaces.run(tree, 0, tree.length(), 0, 0).size(), 16000u);
 }
 
 TEST(NormalizeIndentation, TakesWholeContainersThatTheRangeTouches) {
@@ -117,11 +175,18 @@ TEST(NormalizeIndentation, TakesWholeContainersThatTheRangeTouches) {
     }
 }
 
-/// What lines belong to and say, without the blanks between words.
+/// What lines belong to and say: HTML without the blanks between words, but with all of those in code.
 std::string meaning(std::u16string_view note, RuleConfig::RuleSet rules) {
-    std::string html = Ondo::Test::html(note, rules);
-    std::erase_if(html, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
-    return html;
+    const std::string html = Ondo::Test::html(note, rules);
+    std::string kept;
+    bool isCode = false;
+    for (std::size_t i = 0; i < html.size(); ++i) {
+        if (html.compare(i, 10, "<pre><code") == 0 || html.compare(i, 6, "<math>") == 0) isCode = true;
+        if (html.compare(i, 6, "</pre>") == 0 || html.compare(i, 7, "</math>") == 0) isCode = false;
+        const bool isBlank = html[i] == ' ' || html[i] == '\t' || html[i] == '\n';
+        if (isCode || !isBlank) kept += html[i];
+    }
+    return kept;
 }
 
 TEST(NormalizeIndentation, KeepsTheMeaningOfRandomNotesAndIsDoneAtOnce) {
