@@ -5,12 +5,12 @@
 
 namespace CVN::Operation {
 
-void InlineEdits::insert(std::int64_t offset, std::u16string_view text, Joins joins) {
-    add({offset, 0, std::u16string(text), joins});
+void InlineEdits::insert(std::int64_t offset, std::u16string_view text) {
+    add({offset, 0, std::u16string(text)});
 }
 
 void InlineEdits::replace(std::int64_t offset, std::int64_t length, std::u16string_view text) {
-    add({offset, length, std::u16string(text), Joins::None});
+    add({offset, length, std::u16string(text)});
 }
 
 /// An insertion goes in behind the replacement that starts where it stands, which else would take it away.
@@ -27,18 +27,30 @@ void InlineEdits::add(Edit edit) {
 }
 
 void InlineEdits::dropResizingBefore(std::int64_t offset) {
-    std::erase_if(edits_, [&](const Edit& each) {
-        return each.offset < offset && static_cast<std::int64_t>(each.text.size()) != each.length;
-    });
+    const auto first = std::partition_point(edits_.begin(), edits_.end(),
+                                            [&](const Edit& each) { return each.offset >= offset; });
+    const auto resizes = [](const Edit& each) {
+        return static_cast<std::int64_t>(each.text.size()) != each.length;
+    };
+    edits_.erase(std::remove_if(first, edits_.end(), resizes), edits_.end());
 }
 
-std::vector<Result> InlineEdits::results(std::int64_t selectionOffset, std::int64_t selectionLength) const {
+void InlineEdits::growSelection(std::int64_t before, std::int64_t behind) {
+    if (edits_.empty()) return;
+    edits_.back().growsBefore += before;
+    edits_.back().growsBehind += behind;
+}
+
+std::vector<Result> InlineEdits::results(const Ondo::Range& selection, std::int64_t textLength) const {
     std::vector<Result> list;
     for (const Edit& each : edits_) {
-        Result::addToList(list, each.offset, each.length, each.text, selectionOffset, selectionLength);
-        const auto added = static_cast<std::int64_t>(each.text.size());
-        if (each.joins == Joins::Start) list.back().selectionOffset -= added;
-        if (each.joins != Joins::None) list.back().selectionLength += added;
+        Result::addToList(list, each.offset, each.length, each.text, selection.offset, selection.length);
+        Result& last = list.back();
+        textLength += last.replacementLength() - last.replaceLength;
+        const std::int64_t before = std::min(each.growsBefore, last.selectionOffset);
+        last.selectionOffset -= before;
+        last.selectionLength =
+            std::min(last.selectionLength + before + each.growsBehind, textLength - last.selectionOffset);
     }
     return list;
 }

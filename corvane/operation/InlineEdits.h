@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "corvane/operation/OperationResult.h"
+#include "corvane/tree/Range.h"
 
 namespace CVN::Operation {
 
@@ -15,24 +16,25 @@ namespace CVN::Operation {
 /// at one offset, the later one stands in front.
 class InlineEdits {
 public:
-    /// Where an inserted marker stands at an edge of the selection: whether the selection takes it in.
-    enum class Joins { None, Start, End };
-
-    void insert(std::int64_t offset, std::u16string_view text, Joins joins = Joins::None);
+    void insert(std::int64_t offset, std::u16string_view text);
     /// `length` is above 0; the text may be empty.
     void replace(std::int64_t offset, std::int64_t length, std::u16string_view text);
     /// Drops what would change the length of the text and lies before the offset.
     void dropResizingBefore(std::int64_t offset);
+    /// From the last edit of the list on, the selection takes in as many units before and behind it, as far
+    /// as the text goes.
+    void growSelection(std::int64_t before, std::int64_t behind);
 
-    /// From the end of the text to its start.
-    std::vector<Result> results(std::int64_t selectionOffset, std::int64_t selectionLength) const;
+    /// From the end of the text to its start. The length is that of the text before.
+    std::vector<Result> results(const Ondo::Range& selection, std::int64_t textLength) const;
 
 private:
     struct Edit {
         std::int64_t offset;
         std::int64_t length;
         std::u16string text;
-        Joins joins;
+        std::int64_t growsBefore = 0;
+        std::int64_t growsBehind = 0;
 
         std::int64_t end() const { return offset + length; }
     };

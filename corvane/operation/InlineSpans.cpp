@@ -17,6 +17,16 @@ bool isBlankAt(const Tree& tree, std::int64_t offset) {
     return Ondo::Go::unicodeWhitespace(unitAt(tree, offset));
 }
 
+Range rangeOf(const Node::Iterator& at) {
+    return {at.offset, at->charCount};
+}
+
+/// What two ranges have in common; they overlap or meet.
+Range common(const Range& one, const Range& other) {
+    const std::int64_t start = std::max(one.offset, other.offset);
+    return {start, std::min(one.end(), other.end()) - start};
+}
+
 /// What stands around the text of a line.
 bool isAroundText(const Node* leaf) {
     return leaf->category == Node::Category::Space || leaf->category == Node::Category::LineEnding ||
@@ -48,35 +58,56 @@ bool isPartOfInline(const Node* node) {
            (node->category == Node::Category::Attribute && node->maker && !node->maker->isBlock());
 }
 
-/// The number of steps up from a leaf to the outermost inline construct that begins before it; 0 when there
-/// is none.
-int stepsToConstructBefore(const Node* leaf) {
-    int found = 0;
-    int steps = 0;
+/// The innermost inline construct that holds a range and text on both sides of it; null when there is none.
+const Node* constructAround(const Tree& tree, const Range& range) {
+    Node::Iterator at = leafAt(tree, range.offset);
+    for (; at.node && !at->isBlock(); at.parent())
+        if (isPartOfInline(at.node) && at.offset < range.offset && at.end() > range.end()) return at.node;
+    return nullptr;
+}
+
+/// The outermost inline construct that begins before a leaf and doesn't hold the one around the range, unless
+/// it is of the style itself; null when there is none.
+const Node* constructBefore(const Node* leaf, const Node* around, InlineToggles style) {
+    const Node* found = nullptr;
     bool isBehindStart = leaf->previousSibling;
+    bool isAround = false;
     for (const Node* node = leaf->parent; node && isPartOfInline(node); node = node->parent) {
-        ++steps;
-        if (isBehindStart) found = steps;
+        isAround = isAround || node == around;
+        if (isBehindStart && (!isAround || isNodeOfToggleCategory(node, style))) found = node;
         isBehindStart = isBehindStart || node->previousSibling;
     }
     return found;
 }
 
-/// The first leaf of the line of a leaf. Where an inline construct runs on from the line before, that of the
-/// line in which it begins, but no line that starts before the offset counts.
-Node::Iterator firstOfJoinedLines(Node::Iterator leaf, std::int64_t offset) {
-    for (;;) {
-        leaf.beginningOfLine();
-        toFirstLeaf(leaf);
-        const int steps = leaf.offset > offset ? stepsToConstructBefore(leaf.node) : 0;
-        if (steps == 0) return leaf;
-        for (int i = 0; i < steps; ++i)
-            leaf.parent();
-        toFirstLeaf(leaf);
+/// Back to the first leaf of the line, or to the one that holds the offset if that comes first.
+void toLineStart(Node::Iterator& leaf, std::int64_t offset) {
+    Node::Iterator before = leaf;
+    toPreviousLeaf(before);
+    while (leaf.offset > offset && before.node && before->category != Node::Category::LineEnding) {
+        leaf = before;
+        toPreviousLeaf(before);
     }
 }
 
-void addSpan(const Tree& tree, std::vector<InlineSpan>& spans, InlineSpan span) {
+/// The first leaf of the line of a leaf, or of the line in which a construct begins that joins both. Nothing
+/// before the range counts.
+Node::Iterator firstOfJoinedLines(Node::Iterator leaf, const Range& range, const Node* around,
+                                  InlineToggles style) {
+    for (;;) {
+        toLineStart(leaf, range.offset);
+        const Node* first = leaf.offset > range.offset ? constructBefore(leaf.node, around, style) : nullptr;
+        if (!first) return leaf;
+        while (first->firstChild)
+            first = first->firstChild;
+        while (leaf.node != first && leaf.offset > range.offset)
+            toPreviousLeaf(leaf);
+    }
+}
+
+void addSpan(const Tree& tree, std::vector<InlineSpan>& spans, const Node::Iterator& first,
+             const Node::Iterator& last, const Range& part) {
+    InlineSpan span{first, last, part.offset, part.end(), part};
     while (span.first.node && span.first.end() <= span.offset)
         toNextLeaf(span.first);
     while (span.last.node && span.last.offset >= span.end)
@@ -86,13 +117,13 @@ void addSpan(const Tree& tree, std::vector<InlineSpan>& spans, InlineSpan span) 
 
 void addCells(const Tree& tree, std::vector<InlineSpan>& spans, Node::Iterator row, const Range& range) {
     for (row.lastChild(); row.node; row.previousSibling()) {
-        if (row->type != Ondo::ONDO_TABLE_CELL_NODE || row->charCount == 0) continue;
+        if (row->type != Ondo::ONDO_TABLE_CELL_NODE || row.offset >= range.end() || row.end() <= range.offset)
+            continue;
         Node::Iterator first = row;
         toFirstLeaf(first);
         Node::Iterator last = row;
         last.lastNodeOfSubtree();
-        addSpan(tree, spans,
-                {first, last, std::max(row.offset, range.offset), std::min(row.end(), range.end())});
+        addSpan(tree, spans, first, last, common(rangeOf(row), range));
     }
 }
 
@@ -230,44 +261,62 @@ bool uncrossSpan(const Tree& tree, InlineSpan& span, InlineToggles style) {
     return false;
 }
 
-std::vector<InlineSpan> inlineSpans(const Tree& tree, std::int64_t offset, std::int64_t end) {
+std::vector<InlineSpan> inlineSpans(const Tree& tree, const Range& range, InlineToggles style) {
     std::vector<InlineSpan> spans;
-    Node::Iterator last = leafAt(tree, end);
-    if (last.node && last.offset >= end) toPreviousLeaf(last);
-    while (last.node && last->parent && last.end() > offset) {
-        const Node::Iterator first = firstOfJoinedLines(last, offset);
+    const Node* const around = constructAround(tree, range);
+    Node::Iterator last = leafAt(tree, range.end());
+    if (last.node && last.offset >= range.end()) toPreviousLeaf(last);
+    while (last.node && last->parent && last.end() > range.offset) {
+        const Node::Iterator first = firstOfJoinedLines(last, range, around, style);
         const Node::Iterator row = rowOf(last);
         if (row.node)
-            addCells(tree, spans, row, {offset, end - offset});
+            addCells(tree, spans, row, range);
         else
-            addSpan(tree, spans, {first, last, std::max(first.offset, offset), std::min(last.end(), end)});
+            addSpan(tree, spans, first, last, common({first.offset, last.end() - first.offset}, range));
         last = first;
         toPreviousLeaf(last);
     }
     return spans;
 }
 
-std::int64_t behindBlanks(const Tree& tree, std::int64_t offset) {
-    for (;;) {
+std::optional<InlineSpan> spanBetweenRuns(const Tree& tree, const Range& range, InlineToggles style) {
+    const Node::Iterator leaf = leafAt(tree, range.offset);
+    const auto isRun = [&](const Node* node) { return node && isNodeOfToggleType(node, style); };
+    if (!leaf.node || leaf->category != Node::Category::Text || !(rangeOf(leaf) == range) ||
+        !isRun(leaf->previousSibling) || !isRun(leaf->nextSibling))
+        return std::nullopt;
+    return InlineSpan{leaf, leaf, range.offset, range.end(), range};
+}
+
+Node::Iterator leafFrom(Node::Iterator leaf, std::int64_t offset) {
+    while (leaf.node && leaf.offset > offset)
+        toPreviousLeaf(leaf);
+    while (leaf.node && leaf.end() <= offset)
+        toNextLeaf(leaf);
+    return leaf;
+}
+
+std::int64_t behindBlanks(const Tree& tree, Node::Iterator leaf, std::int64_t offset) {
+    while (offset < tree.length()) {
         if (isBlankAt(tree, offset)) {
             ++offset;
             continue;
         }
-        const Node::Iterator leaf = leafAt(tree, offset);
-        if (!leaf.node || leaf.offset != offset || leaf->charCount == 0 || !isAroundText(leaf.node))
-            return offset;
+        leaf = leafFrom(leaf, offset);
+        if (leaf.offset != offset || !isAroundText(leaf.node)) return offset;
         offset = leaf.end();
     }
+    return offset;
 }
 
-std::int64_t beforeBlanks(const Tree& tree, std::int64_t offset) {
+std::int64_t beforeBlanks(const Tree& tree, Node::Iterator leaf, std::int64_t offset) {
     while (offset > 0) {
         if (isBlankAt(tree, offset - 1)) {
             --offset;
             continue;
         }
-        const Node::Iterator leaf = leafAt(tree, offset - 1);
-        if (!leaf.node || !isAroundText(leaf.node)) return offset;
+        leaf = leafFrom(leaf, offset - 1);
+        if (!isAroundText(leaf.node)) return offset;
         offset = leaf.offset;
     }
     return offset;

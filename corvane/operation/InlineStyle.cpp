@@ -130,7 +130,6 @@ bool isIndivisible(const Node* node) {
     case Ondo::ONDO_ENTITY_NODE:
     case Ondo::ONDO_ESCAPE_NODE:
     case Ondo::ONDO_FOOTNOTE_REFERENCE_NODE:
-    case Ondo::ONDO_HARD_LINE_BREAK_NODE:
     case Ondo::ONDO_HASHTAG_NODE:
     case Ondo::ONDO_IMAGE_NODE:
     case Ondo::ONDO_RAW_HTML_NODE:

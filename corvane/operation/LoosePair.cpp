@@ -27,10 +27,12 @@ std::int64_t runAt(const Tree& tree, std::int64_t offset, char16_t unit) {
     return end - start;
 }
 
-/// Whether the run of delimiters at an offset can be a marker of the style, and not one of another style.
-bool isMarkerAt(const Tree& tree, std::int64_t offset, InlineToggles style) {
+/// Whether the run of delimiters at an offset can be a marker of the style, and not one of another style. The
+/// pair is all there is where code holds nothing but the delimiter itself.
+bool isMarkerAt(const Tree& tree, std::int64_t offset, const Range& pair, InlineToggles style) {
     const std::int64_t length = runAt(tree, offset, endMarkerOf(style).front());
-    if (style == InlineToggles::CodeSpan || style == InlineToggles::MathSpan) return length == 1;
+    if (style == InlineToggles::CodeSpan || style == InlineToggles::MathSpan)
+        return length == 1 || length == pair.length;
     return endMarkerOf(style).size() == 1 ? length == 1 || length == 3 : length >= 2;
 }
 
@@ -45,7 +47,7 @@ bool hasMarkersAtEnds(const Tree& tree, const Range& range, InlineToggles style)
     if (!isTextAt(tree, range.offset, startMarker) || !isTextAt(tree, end, endMarkerOf(style))) return false;
     if (style == InlineToggles::Highlight && hasColorAt(tree, range.offset + sizeOf(startMarker)))
         return false;
-    return isMarkerAt(tree, range.offset, style) && isMarkerAt(tree, end, style);
+    return isMarkerAt(tree, range.offset, range, style) && isMarkerAt(tree, end, range, style);
 }
 
 bool isEscaped(const Node* leaf) {
@@ -56,48 +58,69 @@ bool isPlainText(const Node* leaf) {
     return leaf->category == Node::Category::Text;
 }
 
-bool isUnstyledText(const Node* leaf, InlineToggles style) {
-    return isPlainText(leaf) && !ignoredTypeNode(leaf) && !toggleTypeNode(leaf, style);
+/// Whether a leaf shows a marker that makes no run of the style: as text, or as the marker of another style.
+bool isLoose(const Node* leaf, InlineToggles style) {
+    const bool isForeign = isInlineMarker(leaf) && !isNodeOfToggleCategory(leaf->maker, style);
+    return (isPlainText(leaf) || isForeign) && !ignoredTypeNode(leaf) && !toggleTypeNode(leaf, style);
+}
+
+/// Whether a leaf and the one that holds the last unit of a marker are loose.
+bool isLooseMarker(const Node::Iterator& leaf, std::int64_t lastUnit, InlineToggles style) {
+    return isLoose(leaf.node, style) && isLoose(leafFrom(leaf, lastUnit).node, style);
 }
 
 bool isMarkerOf(const Node::Iterator& leaf, InlineToggles style) {
     return isInlineMarker(leaf.node) && isNodeOfToggleType(leaf->maker, style);
 }
 
+/// What stands at the ends of a pair.
+struct Ends {
+    Node::Iterator first; ///< the leaf that holds the first unit
+    Node::Iterator last;  ///< the leaf that holds the last one
+    bool isFirstLoose;
+    bool isLastLoose;
+};
+
+Ends endsOf(const InlineSpan& span, const Range& pair, InlineToggles style) {
+    const Node::Iterator first = leafFrom(span.first, pair.offset);
+    const Node::Iterator last = leafFrom(span.last, pair.end() - 1);
+    const std::int64_t firstEnd = pair.offset + sizeOf(startMarkerOf(style));
+    const std::int64_t lastStart = pair.end() - sizeOf(endMarkerOf(style));
+    return {first, last, isLooseMarker(first, firstEnd - 1, style) && !isEscaped(first.node),
+            isLooseMarker(last, lastStart, style)};
+}
+
 /// Code and math take their text as it is: a marker behind the range may stand within a run that ends later.
-bool isPairAround(const Tree& tree, const Range& range, InlineToggles style) {
-    if (!hasMarkersAtEnds(tree, range, style)) return false;
-    const Node::Iterator first = leafAt(tree, range.offset);
-    const Node::Iterator last = leafAt(tree, range.end() - 1);
-    const bool isFirstText = isUnstyledText(first.node, style) && !isEscaped(first.node);
-    const bool isLastText = isUnstyledText(last.node, style);
-    if (isFirstText && isLastText) return true;
+bool isPairAround(const Tree& tree, const InlineSpan& span, const Range& pair, InlineToggles style) {
+    if (!hasMarkersAtEnds(tree, pair, style)) return false;
+    const Ends ends = endsOf(span, pair, style);
+    if (ends.isFirstLoose && ends.isLastLoose) return true;
+    const Node::Iterator& first = ends.first;
+    const Node::Iterator& last = ends.last;
     if (isMarkerOf(first, style) && isOpeningMarker(first.node)) {
         const std::int64_t runEnd = climbedTo(first, first->maker).end();
-        if (isIgnoredInline(first->maker) && runEnd > range.end()) return isPlainText(last.node);
-        return isLastText && runEnd <= range.end() - sizeOf(endMarkerOf(style));
+        if (isIgnoredInline(first->maker) && runEnd > pair.end()) return isPlainText(last.node);
+        return ends.isLastLoose && runEnd <= pair.end() - sizeOf(endMarkerOf(style));
     }
-    if (isFirstText && isMarkerOf(last, style) && isClosingMarker(last.node))
-        return climbedTo(last, last->maker).offset >= range.offset + sizeOf(startMarkerOf(style));
+    if (ends.isFirstLoose && isMarkerOf(last, style) && isClosingMarker(last.node))
+        return climbedTo(last, last->maker).offset >= pair.offset + sizeOf(startMarkerOf(style));
     return false;
 }
 
-bool isPairInside(const Tree& tree, const Range& range, InlineToggles style) {
-    if (!hasMarkersAtEnds(tree, range, style)) return false;
-    const Node* const first = leafAt(tree, range.offset).node;
-    const Node* const last = leafAt(tree, range.end() - 1).node;
-    return isUnstyledText(first, style) && isUnstyledText(last, style) && !isEscaped(first) &&
-           !isEscaped(last);
+bool isPairInside(const Tree& tree, const InlineSpan& span, const Range& pair, InlineToggles style) {
+    if (!hasMarkersAtEnds(tree, pair, style)) return false;
+    const Ends ends = endsOf(span, pair, style);
+    return ends.isFirstLoose && ends.isLastLoose && !isEscaped(ends.last.node);
 }
 
 } // namespace
 
-Range loosePair(const Tree& tree, const Range& range, InlineToggles style) {
+Range loosePair(const Tree& tree, const InlineSpan& span, const Range& range, InlineToggles style) {
     if (startMarkerOf(style).empty() || range.length <= 0) return {};
     const std::int64_t added = sizeOf(startMarkerOf(style)) + sizeOf(endMarkerOf(style));
     const Range around{range.offset - sizeOf(startMarkerOf(style)), range.length + added};
-    if (isPairAround(tree, around, style)) return around;
-    return range.length > added && isPairInside(tree, range, style) ? range : Range{};
+    if (isPairAround(tree, span, around, style)) return around;
+    return range.length > added && isPairInside(tree, span, range, style) ? range : Range{};
 }
 
 } // namespace CVN::Operation

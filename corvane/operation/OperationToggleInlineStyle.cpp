@@ -7,6 +7,7 @@
 #include "corvane/operation/InlineRuns.h"
 #include "corvane/operation/InlineSpans.h"
 #include "corvane/operation/InlineStyle.h"
+#include "corvane/operation/InlineWord.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/operation/LoosePair.h"
 #include "corvane/scan/Go.h"
@@ -33,28 +34,6 @@ Range onCharacters(const Tree& tree, std::int64_t offset, std::int64_t length) {
     if (length == 0) return {start, 0};
     const std::int64_t end = offset + length;
     return {start, end + (partsCharacter(tree, end) ? 1 : 0) - start};
-}
-
-bool isWordCharacter(const Tree& tree, std::int64_t offset) {
-    if (offset < 0 || offset >= tree.length()) return false;
-    const char16_t c = unitAt(tree, offset);
-    return !Ondo::Go::unicodeWhitespace(c) && !Ondo::Go::unicodePunctuation(c);
-}
-
-std::int64_t wordStart(const Tree& tree, std::int64_t offset) {
-    while (isWordCharacter(tree, offset - 1))
-        --offset;
-    return offset;
-}
-
-std::int64_t wordEnd(const Tree& tree, std::int64_t offset) {
-    while (isWordCharacter(tree, offset))
-        ++offset;
-    return offset;
-}
-
-Range rangeOf(const Node::Iterator& at) {
-    return {at.offset, at->charCount};
 }
 
 /// The range without blanks at its ends, unless there is nothing else in it.
@@ -128,14 +107,15 @@ std::vector<Result> ToggleInlineStyle::runCursor(const Tree& tree, std::int64_t 
         const Node::Iterator at = climbedTo(leaf, run);
         return runSelection(tree, at.offset, at->charCount, selectionOffset, selectionLength);
     }
-    if (const Node* const ignored = ignoredTypeNode(leaf.node)) {
+    const Node* const ignored = ignoredTypeNode(leaf.node);
+    if (ignored) {
         const Node::Iterator at = climbedTo(leaf, ignored);
-        if (ignored->isBlock() || (at.offset != offset && at.end() != offset)) return {};
+        if (at.offset != offset && at.end() != offset) return {};
     }
-    const Range word = wordAround(tree, offset);
+    const Range word = wordAround(tree, leaf, offset, style_);
     if (word.length > 0)
         return runSelection(tree, word.offset, word.length, selectionOffset, selectionLength);
-    if (!hasMarkers || isInBlockSyntax(leaf.node)) return {};
+    if (!hasMarkers || (!ignored && isInBlockSyntax(leaf.node))) return {};
     std::vector<Result> results;
     std::u16string pair(startMarkerString());
     Result::addToList(results, offset, 0, pair.append(endMarkerString()), selectionOffset, selectionLength);
@@ -176,20 +156,6 @@ std::vector<Result> ToggleInlineStyle::stepOverMarker(const Tree& tree, std::int
     return {};
 }
 
-/// What must not be cut is a word. An apostrophe inside a word belongs to it.
-Range ToggleInlineStyle::wordAround(const Tree& tree, std::int64_t offset) const {
-    constexpr char16_t apostrophe = u'\'';
-    if (const Node::Iterator node = nodeCutAt(tree, offset, {offset, 0}, style_); node.node)
-        return rangeOf(node);
-    std::int64_t start = wordStart(tree, offset);
-    if (unitAt(tree, start - 1) == apostrophe && isWordCharacter(tree, start - 2))
-        start = wordStart(tree, start - 1);
-    std::int64_t end = wordEnd(tree, offset);
-    if (unitAt(tree, end) == apostrophe && isWordCharacter(tree, end + 1)) end = wordEnd(tree, end + 1);
-    if (start == offset || end == offset) return {offset, 0};
-    return {start, end - start};
-}
-
 // On a range
 
 std::vector<Result> ToggleInlineStyle::runSelection(const Tree& tree, std::int64_t offset,
@@ -202,30 +168,49 @@ std::vector<Result> ToggleInlineStyle::runSelection(const Tree& tree, std::int64
     const Range range = withoutCuts(tree, trimmed, style_);
     if (!(range == trimmed) && selection == trimmed) selection = range;
 
-    std::vector<InlineSpan> spans = inlineSpans(tree, range.offset, range.end());
-    std::erase_if(spans, [&](InlineSpan& span) { return !uncross(tree, span, selection); });
+    std::vector<InlineSpan> spans = inlineSpans(tree, range, style_);
+    std::erase_if(spans, [&](InlineSpan& span) { return !settle(tree, span, trimmed, selection); });
+    if (spans.empty())
+        if (const auto span = spanBetweenRuns(tree, range, style_)) spans.push_back(*span);
+    const bool isOneLine = isOnOneLine(tree, range);
     const bool sets = std::any_of(spans.begin(), spans.end(), [&](const InlineSpan& span) {
-        return hasUnstyledText(span) && loosePairOf(tree, span, trimmed).length == 0;
+        return hasUnstyledText(span) && span.loose.length == 0;
     });
     InlineEdits edits;
     for (const InlineSpan& span : spans) {
-        const Range loose = loosePairOf(tree, span, trimmed);
-        if (sets && loose.length == 0) {
-            setType(tree, edits, span, selection);
-        } else if (!sets && loose.length > 0) {
-            edits.replace(loose.end() - endLength(), endLength(), {});
-            edits.replace(loose.offset, startLength(), {});
+        if (sets && span.loose.length == 0) {
+            setType(tree, edits, span, selection, isOneLine);
+        } else if (!sets && span.loose.length > 0) {
+            edits.replace(span.loose.end() - endLength(), endLength(), {});
+            edits.replace(span.loose.offset, startLength(), {});
         } else if (!sets) {
             removeType(tree, edits, span);
         }
     }
-    return edits.results(selection.offset, selection.length);
+    return edits.results(selection, tree.length());
+}
+
+/// A pair may have become markers of other styles, which a span moves off, or an address may have swallowed
+/// the marker behind the range, so that the span goes beyond it.
+bool ToggleInlineStyle::settle(const Tree& tree, InlineSpan& span, const Range& range,
+                               Range& selection) const {
+    const auto find = [&](std::int64_t start, std::int64_t end) {
+        span.loose = loosePair(tree, span, {start, end - start}, style_);
+        return span.loose.length > 0;
+    };
+    if (find(span.offset, span.end)) return true;
+    if (!uncross(tree, span, selection)) return false;
+    if (!find(span.offset, span.end))
+        find(std::max(span.offset, range.offset), std::min(span.end, range.end()));
+    return true;
 }
 
 /// A selection that ends where the span does goes with it when it moves out. False when nothing is left.
 bool ToggleInlineStyle::uncross(const Tree& tree, InlineSpan& span, Range& selection) const {
     const InlineSpan before = span;
     if (!uncrossSpan(tree, span, style_)) return false;
+    const std::int64_t start = std::min(span.offset, span.part.offset);
+    span.part = {start, std::max(span.end, span.part.end()) - start};
     if (selection.length == 0) return true;
     if (selection.offset == before.offset && span.offset < before.offset) {
         selection.length += before.offset - span.offset;
@@ -235,14 +220,18 @@ bool ToggleInlineStyle::uncross(const Tree& tree, InlineSpan& span, Range& selec
     return true;
 }
 
-/// An address may have swallowed the marker behind the range, so that the span goes beyond it.
-Range ToggleInlineStyle::loosePairOf(const Tree& tree, const InlineSpan& span, const Range& range) const {
-    const Range whole{span.offset, span.end - span.offset};
-    const Range found = loosePair(tree, whole, style_);
-    if (found.length > 0) return found;
-    const std::int64_t start = std::max(span.offset, range.offset);
-    const Range part{start, std::min(span.end, range.end()) - start};
-    return part == whole ? Range{} : loosePair(tree, part, style_);
+/// A run of the style that the range begins or ends in counts as a whole, and so does one in front of it.
+bool ToggleInlineStyle::isOnOneLine(const Tree& tree, const Range& range) const {
+    const auto lineOf = [&](const Node::Iterator& leaf) {
+        const Node* const run = toggleTypeNode(leaf.node, style_);
+        return run ? climbedTo(leaf, run).line : leaf.line;
+    };
+    Node::Iterator first = leafAt(tree, range.offset);
+    const Node* const before = first->previousSibling;
+    if (before && first.offset == range.offset && isNodeOfToggleType(before, style_)) first.previousSibling();
+    Node::Iterator last = leafAt(tree, range.end());
+    if (last.offset >= range.end()) toPreviousLeaf(last);
+    return lineOf(first) == lineOf(last);
 }
 
 bool ToggleInlineStyle::hasUnstyledText(const InlineSpan& span) const {
@@ -256,13 +245,14 @@ bool ToggleInlineStyle::hasUnstyledText(const InlineSpan& span) const {
 // Setting
 
 void ToggleInlineStyle::setType(const Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                                const Range& selection) const {
+                                const Range& selection, bool isOneLine) const {
     const Node* const ignored = ignoredTypeNode(span.first.node);
     if (ignored && ignored == ignoredTypeNode(span.last.node)) return;
     const Runs runs = runsAtEnds(span, edits);
-    setEnd(tree, edits, span, runs.end, selection);
+    setEnd(tree, edits, span, runs.end);
     eraseInnerMarkers(edits, span, runs);
-    setStart(tree, edits, span, runs.start, selection);
+    setStart(tree, edits, span, runs.start);
+    growSelection(tree, edits, span, runs, selection, isOneLine);
 }
 
 /// A run that touches the span is joined with it: its marker in between goes.
@@ -288,16 +278,15 @@ ToggleInlineStyle::Runs ToggleInlineStyle::runsAtEnds(const InlineSpan& span, In
 }
 
 void ToggleInlineStyle::setEnd(const Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                               const Node::Iterator& run, const Range& selection) const {
+                               const Node::Iterator& run) const {
     if (!run.node) {
-        const bool joins = selection.end() == span.end && selection.offset < span.offset;
-        edits.insert(span.end, endMarkerString(), joins ? InlineEdits::Joins::End : InlineEdits::Joins::None);
+        edits.insert(span.end, endMarkerString());
         return;
     }
     const Range closing = closingMarker(run);
     replaceUnderscore(tree, edits, closing, startMarkerString());
     if (isNodeOfToggleType(run.node, style_)) return;
-    const std::int64_t behind = behindBlanks(tree, span.end);
+    const std::int64_t behind = behindBlanks(tree, span.last, span.end);
     if (behind >= closing.offset) {
         edits.replace(closing.offset, closing.length, endMarkerString());
         return;
@@ -317,11 +306,9 @@ void ToggleInlineStyle::eraseInnerMarkers(InlineEdits& edits, const InlineSpan& 
 }
 
 void ToggleInlineStyle::setStart(const Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                                 const Node::Iterator& run, const Range& selection) const {
+                                 const Node::Iterator& run) const {
     if (!run.node) {
-        const bool joins = selection.offset == span.offset && selection.end() > span.end;
-        edits.insert(span.offset, startMarkerString(),
-                     joins ? InlineEdits::Joins::Start : InlineEdits::Joins::None);
+        edits.insert(span.offset, startMarkerString());
         return;
     }
     const Range opening = openingMarker(run);
@@ -330,13 +317,34 @@ void ToggleInlineStyle::setStart(const Tree& tree, InlineEdits& edits, const Inl
         if (run.end() < span.end) edits.dropResizingBefore(closingMarker(run).offset);
         return;
     }
-    const std::int64_t before = beforeBlanks(tree, span.offset);
+    const std::int64_t before = beforeBlanks(tree, span.first, span.offset);
     if (before <= opening.end()) {
         edits.replace(opening.offset, opening.length, startMarkerString());
         return;
     }
     edits.insert(span.offset, startMarkerString());
     edits.insert(before, markerText(tree, closingMarker(run)));
+}
+
+/// A marker at an edge of the selection joins it where the styled text isn't just the selection: where there
+/// are several lines, or blanks and other syntax around the text. A run takes in the blanks next to it, at
+/// its end also those behind it.
+void ToggleInlineStyle::growSelection(const Tree& tree, InlineEdits& edits, const InlineSpan& span,
+                                      const Runs& runs, const Range& selection, bool isOneLine) const {
+    const auto isExact = [&](const Node::Iterator& run) {
+        return run.node && isNodeOfToggleType(run.node, style_);
+    };
+    const auto isBlankAt = [&](std::int64_t offset) {
+        return Ondo::Go::unicodeWhitespace(unitAt(tree, offset));
+    };
+    const bool reachesBack =
+        isExact(runs.start) && runs.start.offset < span.offset && isBlankAt(span.offset - 1);
+    const bool reachesOn = isExact(runs.end) && span.end < tree.length() - 1 && isBlankAt(span.end);
+    const bool movesStart = span.offset != span.part.offset || reachesBack;
+    const bool movesEnd = span.end != span.part.end() || reachesOn;
+    const bool joinsStart = !runs.start.node && span.offset == selection.offset && (movesEnd || !isOneLine);
+    const bool joinsEnd = !runs.end.node && span.end == selection.end() && (movesStart || !isOneLine);
+    edits.growSelection(joinsStart ? startLength() : 0, joinsEnd ? endLength() : 0);
 }
 
 // Removing
@@ -360,14 +368,14 @@ void ToggleInlineStyle::removeFromRun(const Tree& tree, InlineEdits& edits, cons
     const std::int64_t contentEnd = beforeTrailingMarkers(run);
     const bool isMarkerAlone = part.offset >= contentEnd;
     if (part.end() > opening.end() && part.end() < contentEnd) {
-        replaceUnderscore(tree, edits, closing, markerText(tree, closing));
+        edits.replace(closing.offset, closing.length, markerText(tree, closing));
         edits.insert(part.end(), markerText(tree, opening));
     } else {
         edits.replace(closing.offset, closing.length, {});
     }
     if (part.offset > behindLeadingMarkers(run) && !isMarkerAlone) {
         edits.insert(part.offset, markerText(tree, closing));
-        replaceUnderscore(tree, edits, opening, markerText(tree, opening));
+        edits.replace(opening.offset, opening.length, markerText(tree, opening));
     } else {
         edits.replace(opening.offset, opening.length, {});
     }
@@ -380,11 +388,11 @@ Range ToggleInlineStyle::adjustForWhitespace(const Tree& tree, const Node::Itera
     std::int64_t end = span.end;
     if (start > run.offset) {
         const Node::Iterator child = childOf(run, span.first);
-        start = beforeBlanks(tree, child->firstChild ? child.offset : start);
+        start = beforeBlanks(tree, span.first, child->firstChild ? child.offset : start);
     }
     if (end < run.end()) {
         const Node::Iterator child = childOf(run, span.last);
-        end = behindBlanks(tree, child->firstChild ? child.end() : end);
+        end = behindBlanks(tree, span.last, child->firstChild ? child.end() : end);
     }
     return {start, end - start};
 }

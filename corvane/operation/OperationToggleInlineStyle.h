@@ -13,13 +13,14 @@ struct InlineSpan;
 /// takes it away where all of the text has it.
 ///
 /// Each line and each cell of a table gets a pair of markers of its own, around its text and not around
-/// blanks or the syntax of blocks. Text that is styled in part becomes one run. A style that goes on beyond
-/// the range is closed before and opened again behind it. Where the markers are there but don't parse, they
-/// are taken away instead of doubled.
+/// blanks or the syntax of blocks, but lines are one where a construct runs across them that begins or ends
+/// in the range. Text that is styled in part becomes one run. A style that goes on beyond the range is closed
+/// before and opened again behind it. Where the markers are there but don't parse, they are taken away
+/// instead of doubled.
 ///
 /// At a caret: takes away an empty pair, steps over a marker, toggles the run or the word around the caret,
-/// or inserts a pair and stands in it. Nothing in code, math and HTML blocks, but a pair at the very edge of
-/// a span of code or math. Highlights of all colours take each other's place.
+/// or inserts a pair and stands in it. Nothing in code, math and HTML, but a pair at their very edge.
+/// Highlights of all colours take each other's place.
 class CORVANE_EXPORT ToggleInlineStyle : public Operation {
 public:
     explicit ToggleInlineStyle(InlineToggles style) : style_(style) {}
@@ -38,24 +39,27 @@ private:
                                   std::int64_t selectionLength) const;
     bool isEmptyPairAt(const Ondo::Tree& tree, std::int64_t offset) const;
     std::vector<Result> stepOverMarker(const Ondo::Tree& tree, std::int64_t offset) const;
-    /// The node or word that the command applies to at a caret; of length 0 when there is none.
-    Ondo::Range wordAround(const Ondo::Tree& tree, std::int64_t offset) const;
 
     std::vector<Result> runSelection(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
                                      std::int64_t selectionOffset, std::int64_t selectionLength) const;
+    /// Finds the loose pair of a span, and moves a span without one off the markers that it would cross.
+    /// False when nothing is left.
+    bool settle(const Ondo::Tree& tree, InlineSpan& span, const Ondo::Range& range,
+                Ondo::Range& selection) const;
     bool uncross(const Ondo::Tree& tree, InlineSpan& span, Ondo::Range& selection) const;
+    bool isOnOneLine(const Ondo::Tree& tree, const Ondo::Range& range) const;
     bool hasUnstyledText(const InlineSpan& span) const;
-    /// The loose pair of a span, or of the part of it in a range.
-    Ondo::Range loosePairOf(const Ondo::Tree& tree, const InlineSpan& span, const Ondo::Range& range) const;
 
     void setType(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                 const Ondo::Range& selection) const;
+                 const Ondo::Range& selection, bool isOneLine) const;
     Runs runsAtEnds(const InlineSpan& span, InlineEdits& edits) const;
     void setEnd(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                const Ondo::Node::Iterator& run, const Ondo::Range& selection) const;
+                const Ondo::Node::Iterator& run) const;
     void setStart(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span,
-                  const Ondo::Node::Iterator& run, const Ondo::Range& selection) const;
+                  const Ondo::Node::Iterator& run) const;
     void eraseInnerMarkers(InlineEdits& edits, const InlineSpan& span, const Runs& runs) const;
+    void growSelection(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span, const Runs& runs,
+                       const Ondo::Range& selection, bool isOneLine) const;
 
     void removeType(const Ondo::Tree& tree, InlineEdits& edits, const InlineSpan& span) const;
     static void removeFromRun(const Ondo::Tree& tree, InlineEdits& edits, const Ondo::Node::Iterator& run,

@@ -43,6 +43,15 @@ TEST(ToggleInlineStyleTest, InsertsAPairAndTakesItBack) {
         {u"[‸a](b)", u"[**‸**a](b)"},
         {u"مرحبا ‸", u"مرحبا **‸**"},
         {u"a\r\n‸\r\nb", u"a\r\n**‸**\r\nb"},
+        {u"ab  ‸\ncd", u"ab  **‸**\ncd"},
+        {u"- ab ‸ \n  cd", u"- ab **‸** \n  cd"},
+        {u"==🔵‸ab==", u"==🔵**‸**ab=="},
+        // At the very edge of what takes no style inside
+        {u"    ab‸", u"    ab**‸**"},
+        {u"‸    ab", u"**‸**    ab"},
+        {u"<div>‸", u"<div>**‸**"},
+        {u"```\na\n```‸", u"```\na\n```**‸**"},
+        {u"$$\na\n$$\n‸", u"$$\na\n$$\n**‸**"},
     };
     for (const auto& [without, with] : pairs)
         expectEachOf(InlineToggles::Strong, {{without, with}, {with, without}});
@@ -93,6 +102,7 @@ TEST(ToggleInlineStyleTest, TogglesTheWordAroundTheCaret) {
                                             {u"日‸本", u"**日‸本**"},
                                             {u"[a b‸c](d) e", u"[a **b‸c**](d) e"},
                                             {u"[^1]: no‸te", u"[^1]: **no‸te**"},
+                                            {u"==🔵wo‸rd==", u"==🔵**wo‸rd**=="},
                                         });
 }
 
@@ -133,10 +143,9 @@ TEST(ToggleInlineStyleTest, LeavesCodeAndSyntaxOfBlocksAlone) {
                                 {u"`⟦a⟧b`", u""},
                                 {u"$a‸b$", u""},
                                 {u"```\na‸b\n```\n", u""},
-                                {u"```\na\n```‸", u""},
                                 {u"```\n⟦ab\n⟧```\n", u""},
                                 {u"    a‸b", u""},
-                                {u"    ab‸", u""},
+                                {u"    ab‸\n    c", u""},
                                 {u"<div>\na‸b\n</div>", u""},
                                 {u"---\na: b‸\n---\n", u""},
                                 {u"$$\na‸\n$$\n", u""},
@@ -168,6 +177,7 @@ TEST(ToggleInlineStyleTest, PutsMarkersAroundTheWords) {
                      {u"⟦[^1]: a⟧\n", u"⟦[^1]: **a**⟧\n"},
                      {u"⟦# a <!-- {\"fold\":true} -->⟧\nb", u"⟦# **a** <!-- {\"fold\":true} -->⟧\nb"},
                      {u"a ⟦👍🏽⟧b", u"a **⟦👍🏽⟧**b"},
+                     {u"a  ⟦\nb⟧", u"a  ⟦\n**b**⟧"},
                  });
 }
 
@@ -182,27 +192,47 @@ TEST(ToggleInlineStyleTest, GivesEachLineAndCellAPairOfItsOwn) {
             {u"⟦a \\\nb  \nc \nd⟧", u"⟦**a** \\\n**b**  \n**c** \n**d**⟧"},
             {u"⟦a\n```\nb\n```\nc⟧", u"⟦**a**\n```\nb\n```\n**c**⟧"},
             {u"⟦a\n\n[a]: b\n---\nc⟧", u"⟦**a**\n\n[a]: b\n---\n**c**⟧"},
-            {u"|⟦a|b |c⟧|\n|-|-|-|\n", u"|⟦**a**|**b** |**c**⟧|\n|-|-|-|\n"},
+            {u"|⟦a|b |c⟧|\n|-|-|-|\n", u"|**⟦a**|**b** |**c⟧**|\n|-|-|-|\n"},
+            {u"| ⟦a | b⟧ |\n|---|---|\n", u"| ⟦**a** | **b**⟧ |\n|---|---|\n"},
             {u"| aa⟦a | b |\n|---|---|\n|  | c⟧cc |\n",
              u"| aa⟦**a** | **b** |\n|---|---|\n|  | **c**⟧cc |\n"},
-            {u"⟦a *b\nc* d⟧\ne", u"**⟦a *b\nc* d⟧**\ne"},
         });
+}
+
+TEST(ToggleInlineStyleTest, JoinsLinesOverAConstructThatBeginsOrEndsInTheRange) {
+    expectEachOf(InlineToggles::Strong,
+                 {
+                     {u"⟦a *b\nc* d⟧\ne", u"⟦**a *b\nc* d**⟧\ne"},
+                     {u"⟦*a\nb*⟧", u"⟦***a\nb***⟧"},
+                     {u"x *a ⟦b\nc* d⟧", u"x *a ⟦**b\nc* d**⟧"},
+                     {u"x *a ⟦**b\nc* d**⟧", u"x *a ⟦b\nc* d⟧"},
+                     {u"> *a ⟦b\n> c⟧ d*", u"> *a ⟦**b**\n> **c**⟧ d*"},
+                     {u"==a ⟦b\nc⟧ d==", u"==a ⟦**b**\n**c**⟧ d=="},
+                     {u"*a [b ⟦c\nd⟧ e](u) f*", u"*a [b ⟦**c**\n**d**⟧ e](u) f*"},
+                     {u"*a ⟦b [c\nd](u) e\nf⟧ g*", u"*a ⟦**b [c\nd](u) e**\n**f**⟧ g*"},
+                     {u"**a [b ⟦c\nd⟧ e](u) f**", u"**a** [b ⟦c\nd⟧ e](u) **f**"},
+                 });
+    expectEachOf(InlineToggles::Emphase, {{u"**⟦ab\ncd⟧**", u"**⟦*ab*\n*cd*⟧**"}});
+    expectEachOf(InlineToggles::HighlightRed, {{u"==🔵a ⟦b\nc⟧ d==", u"==🔵a== ==🔴⟦b\nc⟧== ==🔵d=="}});
 }
 
 TEST(ToggleInlineStyleTest, JoinsWhatIsStyledInPart) {
     expectEachOf(InlineToggles::Strong, {
                                             {u"a ⟦b **c** d⟧", u"a **⟦b c d⟧**"},
-                                            {u"a **b ⟦c** d⟧", u"a **b ⟦c d⟧**"},
-                                            {u"⟦a **b⟧ c**", u"**⟦a b⟧ c**"},
+                                            {u"a **b ⟦c** d⟧", u"a **b ⟦c d**⟧"},
+                                            {u"⟦a **b⟧ c**", u"⟦**a b⟧ c**"},
+                                            {u"**a**⟦ ⟧**b**", u"**a⟦ ⟧b**"},
+                                            {u"**a**⟦ ⟧*b*", u""},
+                                            {u"**a**⟦ ⟧ **b**", u""},
                                             {u"**a**⟦b⟧", u"**a⟦b⟧**"},
                                             {u"⟦a⟧**b**", u"**⟦a⟧b**"},
-                                            {u"⟦a **b\nc** d⟧", u"**⟦a b\nc d⟧**"},
+                                            {u"⟦a **b\nc** d⟧", u"⟦**a b\nc d**⟧"},
                                             {u"⟦**a**\nb⟧", u"⟦**a**\n**b**⟧"},
                                             {u"⟦`a` b⟧", u"**⟦`a` b⟧**"},
                                             {u"⟦a `b⟧c`", u"**⟦a `bc`⟧**"},
                                         });
     expectEachOf(InlineToggles::CodeSpan, {{u"a ⟦b `c` d⟧", u"a `⟦b c d⟧`"}});
-    expectEachOf(InlineToggles::Emphase, {{u"⟦a _b_⟧", u"*⟦a b*⟧"}, {u"_a ⟦b_ c⟧", u"*a ⟦b c⟧*"}});
+    expectEachOf(InlineToggles::Emphase, {{u"⟦a _b_⟧", u"*⟦a b*⟧"}, {u"_a ⟦b_ c⟧", u"*a ⟦b c*⟧"}});
 }
 
 TEST(ToggleInlineStyleTest, ReplacesAnotherColor) {
@@ -260,7 +290,53 @@ TEST(ToggleInlineStyleTest, RemovesMarkersThatDoNotParse) {
                                                });
     expectEachOf(InlineToggles::MathSpan, {{u"$⟦a⟧$5", u"⟦a⟧5"}, {u"$⟦a⟧$5 $x$", u"⟦a⟧5 $x$"}});
     expectEachOf(InlineToggles::Emphase, {{u"*⟦a*b⟧*", u"⟦a*b⟧"}});
-    expectEachOf(InlineToggles::Strong, {{u"(**⟦http://a.b⟧**)", u"(⟦http://a.b⟧)"}});
+    expectEachOf(InlineToggles::CodeSpan, {{u"x `⟦`⟧` y", u"x ⟦`⟧ y"}, {u"x ⟦`⟧ y", u"x `⟦`⟧` y"}});
+    expectEachOf(InlineToggles::Highlight, {{u"==🔴a==⟦b⟧==🔵c==", u"==🔴a====⟦b⟧====🔵c=="}});
+    expectEachOf(InlineToggles::Strong, {
+                                            {u"(**⟦http://a.b⟧**)", u"(⟦http://a.b⟧)"},
+                                            {u"a **⟦b *c⟧** d*", u"a ⟦b *c⟧ d*"},
+                                            {u"**⟦2 *3⟧** x", u"⟦2 *3⟧ x"},
+                                            {u"**⟦\\\\*a⟧** b", u"⟦\\\\*a⟧ b"},
+                                            {u"a *b **⟦c* d⟧** e", u"a *b ⟦c* d⟧ e"},
+                                            {u"**⟦a *b⟧** c*", u"⟦a *b⟧ c*"},
+                                            {u"***⟦a⟧***", u"*⟦a⟧*"},
+                                        });
+    expectEachOf(InlineToggles::Emphase, {{u"**⟦a⟧**", u"***⟦a⟧***"}, {u"***⟦a⟧***", u"**⟦a⟧**"}});
+}
+
+struct ListCase {
+    std::u16string_view text;
+    Range range;
+    Range selection;
+    std::vector<Result> results;
+};
+
+/// What stays as it is may still be written again; the selection takes a marker in with the last edit of its
+/// line.
+TEST(ToggleInlineStyleTest, ListsEachEditWithItsSelection) {
+    const ListCase cases[] = {
+        {u"**a b c**",
+         {4, 1},
+         {4, 1},
+         {{7, 2, u"**", 4, 1}, {6, 0, u"**", 4, 1}, {3, 0, u"**", 6, 1}, {0, 2, u"**", 6, 1}}},
+        {u"a\nb",
+         {0, 3},
+         {0, 3},
+         {{3, 0, u"**", 0, 3}, {2, 0, u"**", 0, 7}, {1, 0, u"**", 0, 9}, {0, 0, u"**", 0, 11}}},
+        {u"**a** **b**", {5, 1}, {5, 1}, {{6, 2, u"", 5, 1}, {3, 2, u"", 3, 1}}},
+        {u"abc de", {0, 3}, {0, 6}, {{3, 0, u"**", 0, 8}, {0, 0, u"**", 2, 8}}},
+        // Behind the end of the text is nothing to take in
+        {u"a\nb",
+         {0, 3},
+         {3, 0},
+         {{3, 0, u"**", 5, 0}, {2, 0, u"**", 7, 0}, {1, 0, u"**", 9, 0}, {0, 0, u"**", 11, 0}}},
+    };
+    for (const ListCase& each : cases)
+        EXPECT_EQ(ToggleInlineStyle(InlineToggles::Strong)
+                      .run(Tree(std::u16string(each.text)), each.range.offset, each.range.length,
+                           each.selection.offset, each.selection.length),
+                  each.results)
+            << visible(each.text);
 }
 
 TEST(ToggleInlineStyleTest, TwiceGivesTheTextBack) {
