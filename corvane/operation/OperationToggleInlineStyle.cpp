@@ -328,7 +328,7 @@ void ToggleInlineStyle::setStart(const Tree& tree, InlineEdits& edits, const Inl
 
 /// A marker at an edge of the selection joins it where the styled text isn't just the selection: where there
 /// are several lines, or blanks and other syntax around the text. A run takes in the blanks next to it, at
-/// its end also those behind it.
+/// its end also those behind it. A caret where a marker goes in comes behind it, and takes in no end.
 void ToggleInlineStyle::growSelection(const Tree& tree, InlineEdits& edits, const InlineSpan& span,
                                       const Runs& runs, const Range& selection, bool isOneLine) const {
     const auto isExact = [&](const Node::Iterator& run) {
@@ -343,7 +343,8 @@ void ToggleInlineStyle::growSelection(const Tree& tree, InlineEdits& edits, cons
     const bool movesStart = span.offset != span.part.offset || reachesBack;
     const bool movesEnd = span.end != span.part.end() || reachesOn;
     const bool joinsStart = !runs.start.node && span.offset == selection.offset && (movesEnd || !isOneLine);
-    const bool joinsEnd = !runs.end.node && span.end == selection.end() && (movesStart || !isOneLine);
+    const bool joinsEnd =
+        !runs.end.node && selection.length > 0 && span.end == selection.end() && (movesStart || !isOneLine);
     edits.growSelection(joinsStart ? startLength() : 0, joinsEnd ? endLength() : 0);
 }
 

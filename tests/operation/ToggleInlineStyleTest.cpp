@@ -325,8 +325,8 @@ TEST(ToggleInlineStyleTest, ListsEachEditWithItsSelection) {
          {{3, 0, u"**", 0, 3}, {2, 0, u"**", 0, 7}, {1, 0, u"**", 0, 9}, {0, 0, u"**", 0, 11}}},
         {u"**a** **b**", {5, 1}, {5, 1}, {{6, 2, u"", 5, 1}, {3, 2, u"", 3, 1}}},
         {u"abc de", {0, 3}, {0, 6}, {{3, 0, u"**", 0, 8}, {0, 0, u"**", 2, 8}}},
-        // Behind the end of the text is nothing to take in
-        {u"a\nb",
+        // A caret takes in nothing behind it
+        {u"a\nbcd",
          {0, 3},
          {3, 0},
          {{3, 0, u"**", 5, 0}, {2, 0, u"**", 7, 0}, {1, 0, u"**", 9, 0}, {0, 0, u"**", 11, 0}}},
