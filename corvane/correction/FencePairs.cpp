@@ -66,7 +66,7 @@ public:
     }
 
     void readBlocks(Node* block) {
-        for (; block; block = block->nextSibling) {
+        for (int read = 0; block && read < mostBlocks; block = block->nextSibling, ++read) {
             if (block->type != Ondo::ONDO_FENCED_CODE_NODE) continue;
             const auto& code = static_cast<const FencedCodeNode&>(*block);
             if (code.fenceCharacter != tick) continue;
@@ -80,6 +80,7 @@ public:
 private:
     static constexpr std::int64_t misplaced = 2;
     static constexpr std::int64_t odd = 1;
+    static constexpr int mostBlocks = 64;
 
     std::int64_t open_;
     std::int64_t weight_ = 0;
