@@ -13,8 +13,8 @@
 /// opening one weighs 1, since it is allowed but odd. Of two ways to pair the fences up, the one that weighs
 /// less is what was meant.
 ///
-/// Containers inside of the container, and blocks of tildes, math or HTML, are passed over. Of a long note the
-/// next 64 blocks tell: fences that are turned around stay so to its end.
+/// Containers inside of the container, and blocks of tildes, math or HTML, are passed over. Of a long note
+/// the next 64 blocks tell: fences that are turned around stay so to its end.
 
 namespace CVN::Correction {
 
