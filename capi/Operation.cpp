@@ -172,7 +172,7 @@ corvane_value_kind corvane_command_argument_kind(corvane_command command, int32_
     /// By CVNTextParameter::Kind.
     constexpr corvane_value_kind kinds[] = {CORVANE_VALUE_NONE, CORVANE_VALUE_INTEGER, CORVANE_VALUE_STRING,
                                             CORVANE_VALUE_BOOLEAN};
-    const CVNTextOperation* const row = rowOf<CVNTextOperation>(command);
+    const auto* const row = rowOf<CVNTextOperation>(command);
     const bool isThere = row && index >= 0 && index < std::ssize(row->parameters);
     return isThere ? kinds[static_cast<std::size_t>(row->parameters[static_cast<std::size_t>(index)].kind)]
                    : CORVANE_VALUE_NONE;
@@ -187,7 +187,7 @@ corvane_status corvane_note_run_command(const corvane_note* note, corvane_comman
     const auto count = std::clamp<std::int64_t>(argument_count, 0, maximumArguments);
     const Arguments given(arguments, static_cast<std::size_t>(count));
     if (!areTexts(given)) return CORVANE_ERROR_TEXT;
-    const CVNTextOperation* const row = rowOf<CVNTextOperation>(command);
+    const auto* const row = rowOf<CVNTextOperation>(command);
     if (!row) return CORVANE_ERROR_NUMBER;
     const std::int64_t total = note->ast.markdownLength();
     if (!isWithin(location, length, total) || !isWithin(selection_location, selection_length, total))
@@ -218,7 +218,7 @@ corvane_status corvane_note_run_correction(const corvane_note* note, corvane_cor
                                            int64_t selection_length, corvane_results** results) {
     if (!note || !results) return CORVANE_ERROR_NULL;
     if (!isText(text, text_length)) return CORVANE_ERROR_TEXT;
-    const CVNTextCorrection* const row = rowOf<CVNTextCorrection>(correction);
+    const auto* const row = rowOf<CVNTextCorrection>(correction);
     if (!row) return CORVANE_ERROR_NUMBER;
     const std::int64_t total = note->ast.markdownLength();
     if (!isWithin(location, length, total) ||

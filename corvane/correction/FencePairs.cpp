@@ -27,13 +27,15 @@ std::optional<Fence> asFence(std::u16string_view line) {
     const std::size_t start = std::min(line.find_first_not_of(u' '), line.size());
     const std::size_t end = std::min(line.find_first_not_of(tick, start), line.size());
     const std::u16string_view info = line.substr(end);
-    if (start > mostBlanks || end - start < leastFence.size() || info.find(tick) != info.npos) return {};
-    return Fence{static_cast<std::int64_t>(end - start), info.find_first_not_of(u" \t") != info.npos};
+    if (start > mostBlanks || end - start < leastFence.size() || info.find(tick) != std::u16string_view::npos)
+        return {};
+    return Fence{static_cast<std::int64_t>(end - start),
+                 info.find_first_not_of(u" \t") != std::u16string_view::npos};
 }
 
 /// The next line of code that could be a fence; the code loses it and all before it.
 std::optional<Fence> takeFence(std::u16string_view& code) {
-    for (std::size_t at = 0; (at = code.find(leastFence)) != code.npos;) {
+    for (std::size_t at = 0; (at = code.find(leastFence)) != std::u16string_view::npos;) {
         const std::size_t start = code.rfind(u'\n', at) + 1; // 0 without one
         const std::size_t end = std::min(code.find(u'\n', at), code.size());
         const auto fence = asFence(code.substr(start, end - start));

@@ -370,7 +370,7 @@ std::u16string InsertNewline::endOfContainer(const Place& at, std::u16string_vie
     for (Node::Iterator frame = frameOf(at.container); isContainer(frame.node); frame = frameOf(frame)) {
         if (leavesQuote(at, frame)) break;
         // A line that already is one of the frame goes out of that as well.
-        if (const std::u16string prefix = prefixOfFrame(at, frame); prefix != line) return prefix;
+        if (std::u16string prefix = prefixOfFrame(at, frame); prefix != line) return prefix;
     }
     const bool isFirst = isListItem(at.container.node)
                              ? !at.container->previousSibling && at.node.line == at.marker.line

@@ -312,7 +312,8 @@ bool PrefixNormalizer::mustStayLazy() {
     while (block.node != lazyBlock_)
         block.parent();
     const std::u16string text(tree_.markdownIn({block.offset, block->charCount}));
-    mustStayLazy_ = text.find(u"]:") != text.npos || holdsUnderline(text + restOfLine(tree_, block.end()));
+    mustStayLazy_ =
+        text.find(u"]:") != std::u16string::npos || holdsUnderline(text + restOfLine(tree_, block.end()));
     return mustStayLazy_;
 }
 

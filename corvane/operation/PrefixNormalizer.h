@@ -62,7 +62,7 @@ private:
     void passMissingQuote();
 
     std::int64_t surplusOf(const LinePrefix& line, std::size_t depth) const;
-    void findKeepsPlace(Ondo::Node::Iterator list, std::size_t depth);
+    void findKeepsPlace(Ondo::Node::Iterator block, std::size_t depth);
     bool keepsPlace(std::size_t depth);
     bool isLeftAsItStands(const Ondo::Node::Iterator& block, std::int64_t surplus) const;
 

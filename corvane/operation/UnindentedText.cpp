@@ -56,7 +56,7 @@ bool staysBlock(const Ondo::Tree& tree, const Node::Iterator& block) {
 
 bool holdsFenceLikeLines(std::u16string_view block) {
     int count = 0;
-    for (auto at = block.find(u'\n'); at != block.npos; at = block.find(u'\n', at)) {
+    for (auto at = block.find(u'\n'); at != std::u16string_view::npos; at = block.find(u'\n', at)) {
         at = std::min(block.find_first_not_of(u" \t>\n\r", at), block.size());
         for (const std::u16string_view fence : {u"```", u"~~~", u"$$"})
             count += block.substr(at, fence.size()) == fence ? 1 : 0;
