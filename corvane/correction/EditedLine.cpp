@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "corvane/block/Fence.h"
-#include "corvane/block/List.h"
+#include "corvane/operation/BlockStructure.h"
 #include "corvane/operation/LineWalk.h"
 
 namespace CVN::Correction {
@@ -15,7 +15,6 @@ using Ondo::Node;
 namespace {
 
 constexpr std::int64_t tabWidth = 4;
-constexpr std::int64_t boxLength = 4; ///< of "[ ] "
 constexpr std::int64_t longestContent = 4096;
 
 bool isBlank(char16_t unit) {
@@ -49,12 +48,6 @@ bool isPrefixLeaf(const Node* leaf) {
     return leaf && !leaf->firstChild && (isContainerMarker(leaf) || leaf->type == Ondo::ONDO_SPACE_NODE);
 }
 
-/// A marker without the box of a task, whose blanks count as content.
-std::int64_t lengthWithoutBox(const Node* marker) {
-    const auto* const item = static_cast<const Ondo::Block::ListItemNode*>(marker->maker);
-    return marker->charCount - (item->isTask() ? boxLength : 0);
-}
-
 /// A selection cut to the text that the edit leaves.
 Ondo::Range clamped(const Ondo::Range& selection, const PendingEdit& edit) {
     const std::int64_t textLength = edit.tree.length() + edit.growth();
@@ -73,11 +66,11 @@ std::int64_t movedOver(std::int64_t position, const Change& change) {
 /// belong to the content but for one, by CommonMark 0.31.2.
 std::int64_t columnOfContent(const Ondo::Tree& tree, Node::Iterator marker, std::int64_t column) {
     constexpr std::int64_t widestPadding = 4;
-    const auto length = static_cast<std::size_t>(lengthWithoutBox(marker.node));
+    const auto length = static_cast<std::size_t>(Operation::markerIndentWidth(marker.node->maker));
     const std::u16string_view text = textOf(tree, marker).substr(0, length);
     const std::int64_t blank = isBlank(text.back()) ? 1 : 0;
     const std::int64_t behind = columnBehind(column, text);
-    const bool hasBox = marker->charCount > lengthWithoutBox(marker.node);
+    const bool hasBox = marker->charCount > Operation::markerIndentWidth(marker.node->maker);
     ++marker;
     if (hasBox || !isOfType(marker.node, Ondo::ONDO_SPACE_NODE)) return behind + 1 - blank;
     const std::int64_t padded = columnBehind(behind, textOf(tree, marker));
@@ -284,7 +277,7 @@ std::int64_t EditedLine::itemColumn() const {
         if (!at->firstChild) column = columnBehind(column, textOf(edit_.tree, at));
     if (!at.node) return 0;
     // Behind the box of a task, on its own line, the content begins further right.
-    const bool isOwnBox = at.offset >= start_ && lengthWithoutBox(at.node) < at->charCount;
+    const bool isOwnBox = at.offset >= start_ && Operation::markerIndentWidth(at.node->maker) < at->charCount;
     return isOwnBox ? columnBehind(column, textOf(edit_.tree, at)) : columnOfContent(edit_.tree, at, column);
 }
 
@@ -324,7 +317,7 @@ std::u16string EditedLine::furtherPrefix(IndentStyle style) const {
     for (; leaf.node && leaf.offset < contentStart_; ++leaf) {
         if (leaf->firstChild) continue;
         if (leaf->type == Ondo::ONDO_LIST_ITEM_MARKER_NODE) {
-            const std::int64_t bare = lengthWithoutBox(leaf.node);
+            const std::int64_t bare = Operation::markerIndentWidth(leaf.node->maker);
             prefix.append(static_cast<std::size_t>(box + bare), u' ');
             box = leaf->charCount - bare;
             item = leaf->maker;

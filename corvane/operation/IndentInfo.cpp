@@ -219,11 +219,6 @@ bool isLineEnd(const Ondo::Tree& tree, std::int64_t offset) {
     return offset >= tree.length() || unit == u'\n' || unit == u'\r';
 }
 
-void toNextLine(Node::Iterator& line) {
-    line.endOfLine();
-    line.nextInSequence();
-}
-
 bool isBlankLine(const Node::Iterator& line) {
     Node::Iterator leaf = line;
     toFirstLeaf(leaf);

@@ -96,9 +96,6 @@ std::u16string widened(std::u16string blanks, std::int64_t columns);
 /// Whether the line ends at the offset.
 bool isLineEnd(const Ondo::Tree& tree, std::int64_t offset);
 
-/// From a line node to that of the line behind; to none at the end of the text.
-void toNextLine(Ondo::Node::Iterator& line);
-
 // Blocks and what is around them
 
 /// The block that a further line cannot move without; null for a line of a paragraph and one that starts a

@@ -20,6 +20,11 @@ void toPreviousLine(Node::Iterator& line) {
     if (line.node && line->type != Ondo::ONDO_DOCUMENT_NODE) line.beginningOfLine();
 }
 
+void toNextLine(Node::Iterator& line) {
+    line.endOfLine();
+    line.nextInSequence();
+}
+
 void toFirstLeaf(Node::Iterator& at) {
     while (at.node && at->firstChild)
         at.firstChild();

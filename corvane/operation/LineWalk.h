@@ -21,6 +21,9 @@ Ondo::Node::Iterator lineAt(const Ondo::Tree& tree, std::int64_t offset);
 /// From a line node to that of the line before; to the document when there is none.
 void toPreviousLine(Ondo::Node::Iterator& line);
 
+/// From a line node to that of the line behind; to none at the end of the text.
+void toNextLine(Ondo::Node::Iterator& line);
+
 /// From a node down to the leaf that starts where it does.
 void toFirstLeaf(Ondo::Node::Iterator& at);
 
