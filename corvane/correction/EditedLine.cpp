@@ -66,11 +66,11 @@ std::int64_t movedOver(std::int64_t position, const Change& change) {
 /// belong to the content but for one, by CommonMark 0.31.2.
 std::int64_t columnOfContent(const Ondo::Tree& tree, Node::Iterator marker, std::int64_t column) {
     constexpr std::int64_t widestPadding = 4;
-    const auto length = static_cast<std::size_t>(Operation::markerIndentWidth(marker.node->maker));
+    const auto length = static_cast<std::size_t>(markerIndentWidth(marker.node->maker));
     const std::u16string_view text = textOf(tree, marker).substr(0, length);
     const std::int64_t blank = isBlank(text.back()) ? 1 : 0;
     const std::int64_t behind = columnBehind(column, text);
-    const bool hasBox = marker->charCount > Operation::markerIndentWidth(marker.node->maker);
+    const bool hasBox = marker->charCount > markerIndentWidth(marker.node->maker);
     ++marker;
     if (hasBox || !isOfType(marker.node, Ondo::ONDO_SPACE_NODE)) return behind + 1 - blank;
     const std::int64_t padded = columnBehind(behind, textOf(tree, marker));
@@ -277,7 +277,7 @@ std::int64_t EditedLine::itemColumn() const {
         if (!at->firstChild) column = columnBehind(column, textOf(edit_.tree, at));
     if (!at.node) return 0;
     // Behind the box of a task, on its own line, the content begins further right.
-    const bool isOwnBox = at.offset >= start_ && Operation::markerIndentWidth(at.node->maker) < at->charCount;
+    const bool isOwnBox = at.offset >= start_ && markerIndentWidth(at.node->maker) < at->charCount;
     return isOwnBox ? columnBehind(column, textOf(edit_.tree, at)) : columnOfContent(edit_.tree, at, column);
 }
 
@@ -317,7 +317,7 @@ std::u16string EditedLine::furtherPrefix(IndentStyle style) const {
     for (; leaf.node && leaf.offset < contentStart_; ++leaf) {
         if (leaf->firstChild) continue;
         if (leaf->type == Ondo::ONDO_LIST_ITEM_MARKER_NODE) {
-            const std::int64_t bare = Operation::markerIndentWidth(leaf.node->maker);
+            const std::int64_t bare = markerIndentWidth(leaf.node->maker);
             prefix.append(static_cast<std::size_t>(box + bare), u' ');
             box = leaf->charCount - bare;
             item = leaf->maker;
