@@ -123,18 +123,53 @@ set(CORVANE_PUBLIC_HEADERS
     operation/IndentInfo.h
     operation/LineWalk.h
     operation/Operation.h
+    operation/OperationAddTag.h
+    operation/OperationAddTagAtTop.h
+    operation/OperationAppendText.h
     operation/OperationDeleteNext.h
     operation/OperationDeletePrevious.h
+    operation/OperationEscapePipes.h
+    operation/OperationEscapeTag.h
     operation/OperationExitInlines.h
     operation/OperationIndent.h
+    operation/OperationInsertBlock.h
+    operation/OperationInsertFootnote.h
+    operation/OperationInsertFootnoteDefinition.h
     operation/OperationInsertNewline.h
+    operation/OperationJumpTableCell.h
+    operation/OperationMoveLines.h
+    operation/OperationMutateTable.h
+    operation/OperationNormalizeCallouts.h
     operation/OperationNormalizeIndentation.h
+    operation/OperationNormalizeTables.h
+    operation/OperationPrependText.h
+    operation/OperationRemoveLink.h
+    operation/OperationRemoveStrayMetaComments.h
+    operation/OperationRemoveTag.h
+    operation/OperationRenameTag.h
+    operation/OperationRenameUnusedFootnoteDefinitions.h
+    operation/OperationRenumberFootnotes.h
+    operation/OperationRenumberOrderedList.h
+    operation/OperationReorderFootnoteDefinitions.h
     operation/OperationResult.h
+    operation/OperationSelectAllText.h
+    operation/OperationTagBase.h
     operation/OperationToggleBlockStyle.h
+    operation/OperationToggleFold.h
     operation/OperationToggleInlineStyle.h
+    operation/OperationToggleTask.h
+    operation/OperationUnfoldRangeEdges.h
+    operation/OperationUpdateLinks.h
+    operation/OperationUpdateWikiLinks.h
     correction/CalloutCorrection.h
     correction/Correction.h
+    correction/DeleteWhitespaceCorrection.h
     correction/FencedCodeCorrection.h
+    correction/InvalidCharacterCorrection.h
     correction/ListItemSpaceCorrection.h
     correction/MathBlockCorrection.h
+    correction/PasteDeduplicateBlockCorrection.h
+    correction/PasteLineEndingCorrection.h
+    correction/PasteWhitespaceCorrection.h
+    correction/SelectionCorrection.h
     correction/TableSpaceCorrection.h)

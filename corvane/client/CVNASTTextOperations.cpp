@@ -17,6 +17,14 @@ using Results = CVNASTTextOperations::Results;
 using Operations = CVNTextOperation::Number;
 using Corrections = CVNTextCorrection::Number;
 
+namespace {
+
+CVNTextArgument textArgument(std::u16string_view text) {
+    return {0, text};
+}
+
+} // namespace
+
 Results CVNASTTextOperations::indent(CVNRange range, CVNRange selectionRange) const {
     return run(Operations::indent, range, selectionRange);
 }
@@ -51,6 +59,137 @@ Results CVNASTTextOperations::deleteNext(CVNRange range, CVNRange selectionRange
     return run(Operations::deleteNext, range, selectionRange);
 }
 
+Results CVNASTTextOperations::toggleTask(CVNRange range, CVNRange selectionRange, std::int64_t style) const {
+    return run(Operations::toggleTask, range, selectionRange, {CVNTextArgument{style, {}}});
+}
+
+Results CVNASTTextOperations::normalizeCalloutInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::normalizeCalloutInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::renumberOrderedListInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::renumberOrderedListInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::removeStrayMetaCommentInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::removeStrayMetaCommentInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::addTagToTop(std::u16string_view tag, CVNRange selectionRange) const {
+    return run(Operations::addTagToTop, {}, selectionRange, {textArgument(tag)});
+}
+
+Results CVNASTTextOperations::addTagToBottom(std::u16string_view tag, CVNRange selectionRange) const {
+    return run(Operations::addTagToBottom, {}, selectionRange, {textArgument(tag)});
+}
+
+Results CVNASTTextOperations::removeTag(std::u16string_view tag, CVNRange selectionRange) const {
+    return run(Operations::removeTag, {}, selectionRange, {textArgument(tag)});
+}
+
+Results CVNASTTextOperations::renameTag(std::u16string_view tag, std::u16string_view to,
+                                        CVNRange selectionRange) const {
+    return run(Operations::renameTag, {}, selectionRange, {textArgument(tag), textArgument(to)});
+}
+
+Results CVNASTTextOperations::escapeTag(std::u16string_view tag, CVNRange selectionRange) const {
+    return run(Operations::escapeTag, {}, selectionRange, {textArgument(tag)});
+}
+
+Results CVNASTTextOperations::appendText(std::u16string_view text, CVNRange selectionRange) const {
+    return run(Operations::appendText, {}, selectionRange, {textArgument(text)});
+}
+
+Results CVNASTTextOperations::appendTextExact(std::u16string_view text, CVNRange selectionRange) const {
+    return run(Operations::appendTextExact, {}, selectionRange, {textArgument(text)});
+}
+
+Results CVNASTTextOperations::prependText(std::u16string_view text, CVNRange selectionRange) const {
+    return run(Operations::prependText, {}, selectionRange, {textArgument(text)});
+}
+
+Results CVNASTTextOperations::updateWikiLinks(std::u16string_view target, std::u16string_view to,
+                                              bool skipInTitle, CVNRange selectionRange) const {
+    return run(Operations::updateWikiLinks, {}, selectionRange,
+               {textArgument(target), textArgument(to), CVNTextArgument{skipInTitle, {}}});
+}
+
+Results CVNASTTextOperations::updateLinksURL(std::u16string_view url, std::u16string_view to,
+                                             CVNRange selectionRange) const {
+    return run(Operations::updateLinksURL, {}, selectionRange, {textArgument(url), textArgument(to)});
+}
+
+Results CVNASTTextOperations::removeLinkWithURL(std::u16string_view url, CVNRange selectionRange) const {
+    return run(Operations::removeLinkWithURL, {}, selectionRange, {textArgument(url)});
+}
+
+Results CVNASTTextOperations::insertThematicBreak(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::insertThematicBreak, range, selectionRange);
+}
+
+Results CVNASTTextOperations::insertTable(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::insertTable, range, selectionRange);
+}
+
+Results CVNASTTextOperations::toggleFoldInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::toggleFoldInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::foldAllHeadingSelectionRange(CVNRange selectionRange) const {
+    return run(Operations::foldAllHeadingSelectionRange, {}, selectionRange);
+}
+
+Results CVNASTTextOperations::unfoldAllHeadingSelectionRange(CVNRange selectionRange) const {
+    return run(Operations::unfoldAllHeadingSelectionRange, {}, selectionRange);
+}
+
+Results CVNASTTextOperations::unfoldAtRangeEdges(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::unfoldAtRangeEdges, range, selectionRange);
+}
+
+Results CVNASTTextOperations::escapePipesInRange(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::escapePipesInRange, range, selectionRange);
+}
+
+Results CVNASTTextOperations::insertFootnoteWithDefinitionText(std::u16string_view definitionText,
+                                                               CVNRange range,
+                                                               CVNRange selectionRange) const {
+    return run(Operations::insertFootnoteWithDefinitionText, range, selectionRange,
+               {textArgument(definitionText)});
+}
+
+Results CVNASTTextOperations::insertFootnoteDefinitionWithText(std::u16string_view definitionText,
+                                                               CVNRange range,
+                                                               CVNRange selectionRange) const {
+    return run(Operations::insertFootnoteDefinitionWithText, range, selectionRange,
+               {textArgument(definitionText)});
+}
+
+Results CVNASTTextOperations::renameUnusedFootnoteDefinitionsIn(CVNRange range,
+                                                                CVNRange selectionRange) const {
+    return run(Operations::renameUnusedFootnoteDefinitionsIn, range, selectionRange);
+}
+
+Results CVNASTTextOperations::renumberFootnotesIn(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::renumberFootnotesIn, range, selectionRange);
+}
+
+Results CVNASTTextOperations::reorderFootnoteDefinitionsIn(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::reorderFootnoteDefinitionsIn, range, selectionRange);
+}
+
+Results CVNASTTextOperations::moveLinesUpIn(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::moveLinesUpIn, range, selectionRange);
+}
+
+Results CVNASTTextOperations::moveLinesDownIn(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::moveLinesDownIn, range, selectionRange);
+}
+
+Results CVNASTTextOperations::selectAllTextIn(CVNRange range, CVNRange selectionRange) const {
+    return run(Operations::selectAllTextIn, range, selectionRange);
+}
+
 Results CVNASTTextOperations::fencedCodeCorrectionIn(CVNRange range, std::u16string_view replacementString,
                                                      CVNRange selectionRange) const {
     return run(Corrections::fencedCodeCorrectionIn, range, replacementString, selectionRange);
@@ -74,6 +213,28 @@ Results CVNASTTextOperations::mathBlockCorrectionIn(CVNRange range, std::u16stri
 Results CVNASTTextOperations::tableSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
                                                      CVNRange selectionRange) const {
     return run(Corrections::tableSpaceCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::pasteCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                CVNRange selectionRange) const {
+    return run(Corrections::pasteCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::selectionCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                                    CVNRange selectionRange) const {
+    return run(Corrections::selectionCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::invalidCharacterCorrectionIn(CVNRange range,
+                                                           std::u16string_view replacementString,
+                                                           CVNRange selectionRange) const {
+    return run(Corrections::invalidCharacterCorrectionIn, range, replacementString, selectionRange);
+}
+
+Results CVNASTTextOperations::deleteWhitespaceCorrectionIn(CVNRange range,
+                                                           std::u16string_view replacementString,
+                                                           CVNRange selectionRange) const {
+    return run(Corrections::deleteWhitespaceCorrectionIn, range, replacementString, selectionRange);
 }
 
 Results CVNASTTextOperations::resultForTextOperation(const CVN::Operation::Operation& operation,

@@ -37,6 +37,39 @@ public:
     Results normalizeIndentationInRange(CVNRange range, CVNRange selectionRange) const;
     Results deletePrevious(CVNRange range, CVNRange selectionRange) const;
     Results deleteNext(CVNRange range, CVNRange selectionRange) const;
+    Results toggleTask(CVNRange range, CVNRange selectionRange, std::int64_t style) const;
+    Results normalizeCalloutInRange(CVNRange range, CVNRange selectionRange) const;
+    Results renumberOrderedListInRange(CVNRange range, CVNRange selectionRange) const;
+    Results removeStrayMetaCommentInRange(CVNRange range, CVNRange selectionRange) const;
+    Results addTagToTop(std::u16string_view tag, CVNRange selectionRange) const;
+    Results addTagToBottom(std::u16string_view tag, CVNRange selectionRange) const;
+    Results removeTag(std::u16string_view tag, CVNRange selectionRange) const;
+    Results renameTag(std::u16string_view tag, std::u16string_view to, CVNRange selectionRange) const;
+    Results escapeTag(std::u16string_view tag, CVNRange selectionRange) const;
+    Results appendText(std::u16string_view text, CVNRange selectionRange) const;
+    Results appendTextExact(std::u16string_view text, CVNRange selectionRange) const;
+    Results prependText(std::u16string_view text, CVNRange selectionRange) const;
+    Results updateWikiLinks(std::u16string_view target, std::u16string_view to, bool skipInTitle,
+                            CVNRange selectionRange) const;
+    Results updateLinksURL(std::u16string_view url, std::u16string_view to, CVNRange selectionRange) const;
+    Results removeLinkWithURL(std::u16string_view url, CVNRange selectionRange) const;
+    Results insertThematicBreak(CVNRange range, CVNRange selectionRange) const;
+    Results insertTable(CVNRange range, CVNRange selectionRange) const;
+    Results toggleFoldInRange(CVNRange range, CVNRange selectionRange) const;
+    Results foldAllHeadingSelectionRange(CVNRange selectionRange) const;
+    Results unfoldAllHeadingSelectionRange(CVNRange selectionRange) const;
+    Results unfoldAtRangeEdges(CVNRange range, CVNRange selectionRange) const;
+    Results escapePipesInRange(CVNRange range, CVNRange selectionRange) const;
+    Results insertFootnoteWithDefinitionText(std::u16string_view definitionText, CVNRange range,
+                                             CVNRange selectionRange) const;
+    Results insertFootnoteDefinitionWithText(std::u16string_view definitionText, CVNRange range,
+                                             CVNRange selectionRange) const;
+    Results renameUnusedFootnoteDefinitionsIn(CVNRange range, CVNRange selectionRange) const;
+    Results renumberFootnotesIn(CVNRange range, CVNRange selectionRange) const;
+    Results reorderFootnoteDefinitionsIn(CVNRange range, CVNRange selectionRange) const;
+    Results moveLinesUpIn(CVNRange range, CVNRange selectionRange) const;
+    Results moveLinesDownIn(CVNRange range, CVNRange selectionRange) const;
+    Results selectAllTextIn(CVNRange range, CVNRange selectionRange) const;
 
     // Corrections, asked before the edit of `range` is made. The selection is that proposed for behind it.
 
@@ -50,6 +83,14 @@ public:
                                   CVNRange selectionRange) const;
     Results tableSpaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
                                    CVNRange selectionRange) const;
+    Results pasteCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                              CVNRange selectionRange) const;
+    Results selectionCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                  CVNRange selectionRange) const;
+    Results invalidCharacterCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                         CVNRange selectionRange) const;
+    Results deleteWhitespaceCorrectionIn(CVNRange range, std::u16string_view replacementString,
+                                         CVNRange selectionRange) const;
 
     // Objects that the host makes
 

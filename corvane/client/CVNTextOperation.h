@@ -29,7 +29,7 @@ struct CVNTextParameter {
     const char* about = nullptr; ///< what its values mean, in a few words
 };
 
-/// A command: a method of CVNASTTextOperations.
+/// A command: a method of CVNASTTextOperations, or an operation that hosts make themselves.
 struct CORVANE_EXPORT CVNTextOperation {
     /// Fixed: later commands are added behind.
     enum class Number : std::uint8_t {
@@ -40,12 +40,46 @@ struct CORVANE_EXPORT CVNTextOperation {
         insertNewlineInRange,
         normalizeIndentationInRange,
         deletePrevious,
-        deleteNext
+        deleteNext,
+        toggleTask,
+        normalizeCalloutInRange,
+        renumberOrderedListInRange,
+        removeStrayMetaCommentInRange,
+        addTagToTop,
+        addTagToBottom,
+        removeTag,
+        renameTag,
+        escapeTag,
+        appendText,
+        appendTextExact,
+        prependText,
+        updateWikiLinks,
+        updateLinksURL,
+        removeLinkWithURL,
+        insertThematicBreak,
+        insertTable,
+        toggleFoldInRange,
+        foldAllHeadingSelectionRange,
+        unfoldAllHeadingSelectionRange,
+        unfoldAtRangeEdges,
+        escapePipesInRange,
+        insertFootnoteWithDefinitionText,
+        insertFootnoteDefinitionWithText,
+        renameUnusedFootnoteDefinitionsIn,
+        renumberFootnotesIn,
+        reorderFootnoteDefinitionsIn,
+        moveLinesUpIn,
+        moveLinesDownIn,
+        selectAllTextIn,
+        mutateTable,
+        jumpTableCell,
+        normalizeTables
     };
     using Results = std::vector<CVNASTOperationResult>;
 
     Number number;
-    const char* name; ///< of the method
+    const char* name;  ///< of the method
+    const char* about; ///< a sentence
     std::array<CVNTextParameter, 3> parameters;
     Results (*run)(const CVNAST& note, CVNRange range, CVNRange selectionRange,
                    const CVNTextArguments& arguments);
@@ -64,12 +98,17 @@ struct CORVANE_EXPORT CVNTextCorrection {
         listItemSpaceCorrectionIn,
         calloutCorrectionIn,
         mathBlockCorrectionIn,
-        tableSpaceCorrectionIn
+        tableSpaceCorrectionIn,
+        pasteCorrectionIn,
+        selectionCorrectionIn,
+        invalidCharacterCorrectionIn,
+        deleteWhitespaceCorrectionIn
     };
     using Results = std::vector<CVNASTOperationResult>;
 
     Number number;
-    const char* name; ///< of the method
+    const char* name;  ///< of the method
+    const char* about; ///< a sentence
     Results (*run)(const CVNAST& note, CVNRange range, std::u16string_view replacement,
                    CVNRange selectionRange);
 

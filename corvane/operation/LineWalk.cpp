@@ -79,6 +79,24 @@ const Node* selfOrAncestor(const Node* node, std::uint16_t type) {
     return node;
 }
 
+bool isVerbatim(const Node* node) {
+    return isOfType(node, Ondo::ONDO_FENCED_CODE_NODE) || isOfType(node, Ondo::ONDO_INDENTED_CODE_NODE) ||
+           isOfType(node, Ondo::ONDO_YAML_NODE) || isOfType(node, Ondo::ONDO_CODE_SPAN_NODE) ||
+           isOfType(node, Ondo::ONDO_MATH_SPAN_NODE) || isOfType(node, Ondo::ONDO_MATH_BLOCK_NODE);
+}
+
+bool isInVerbatim(const Node* node) {
+    while (node && !isVerbatim(node))
+        node = node->parent;
+    return node;
+}
+
+bool isTableRow(const Node* node) {
+    return isOfType(node, Ondo::ONDO_TABLE_HEADER_ROW_NODE) ||
+           isOfType(node, Ondo::ONDO_TABLE_DELIMITER_ROW_NODE) ||
+           isOfType(node, Ondo::ONDO_TABLE_DATA_ROW_NODE);
+}
+
 bool isSimplified(const Ondo::Tree& tree) {
     return tree.ruleSet == Ondo::RuleConfig::Simplified;
 }

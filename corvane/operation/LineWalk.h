@@ -74,6 +74,16 @@ bool isInlineMarker(const Ondo::Node* node);
 /// The node itself or its nearest ancestor of the type; null when there is none.
 const Ondo::Node* selfOrAncestor(const Ondo::Node* node, std::uint16_t type);
 
+/// A block or span of code or math, or front matter: text in which nothing but itself is meant.
+bool isVerbatim(const Ondo::Node* node);
+/// Whether the node stands in such a one, or is one.
+bool isInVerbatim(const Ondo::Node* node);
+/// A header, delimiter or data row of a table, and a pipe of one.
+bool isTableRow(const Ondo::Node* node);
+inline bool isTablePipe(const Ondo::Node* node) {
+    return isOfType(node, Ondo::ONDO_TABLE_PIPE_MARKER_NODE);
+}
+
 /// Whether the dialect is the simplified one, in which a line needs its own marker to belong to a container.
 bool isSimplified(const Ondo::Tree& tree);
 

@@ -68,6 +68,33 @@ enum class IndentAction : std::uint32_t { Indent, Undent };
 /// What indentation is written with.
 enum class IndentStyle : std::uint32_t { Spaces, Tabs };
 
+enum class ToggleTaskType : std::uint32_t { Toggle, Uncheck, Check };
+
+enum class MoveLinesDirection : std::uint32_t { Up, Down };
+
+enum class JumpTableCellDirection : std::uint32_t { Next, Previous };
+
+enum class MutateTableAction : std::uint32_t {
+    AddRowAbove,
+    AddRowBelow,
+    DeleteRow,
+    MoveRowUp,
+    MoveRowDown,
+    AddColumnBefore,
+    AddColumnAfter,
+    DeleteColumn,
+    MoveColumnLeft,
+    MoveColumnRight,
+    AlignNone,
+    AlignLeft,
+    AlignCenter,
+    AlignRight
+};
+
+enum class InsertBlockType : std::uint32_t { ThematicBreak, Table };
+
+enum class ToggleFoldType : std::uint32_t { ToggleAtSelection, FoldAll, UnfoldAll };
+
 /// What a new line in a list item or quote begins with: what makes another item, or what stays in this one.
 enum class InsertNewlineListItemOption : std::uint32_t { NewItem, SecondaryRow };
 

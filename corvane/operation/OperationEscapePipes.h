@@ -1,0 +1,15 @@
+#pragma once
+
+#include "corvane/operation/Operation.h"
+#include "corvane/scan/Export.h"
+
+namespace CVN::Operation {
+
+/// Puts a backslash in front of each pipe of a range.
+class CORVANE_EXPORT EscapePipes : public Operation {
+public:
+    std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                            std::int64_t selectionOffset, std::int64_t selectionLength) const override;
+};
+
+} // namespace CVN::Operation

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+
+#include "corvane/operation/Operation.h"
+#include "corvane/scan/Export.h"
+
+namespace CVN::Operation {
+
+/// Removes the links and images that lead to a URL.
+class CORVANE_EXPORT RemoveLink : public Operation {
+public:
+    explicit RemoveLink(std::u16string_view url) : url_(url) {}
+
+    std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
+                            std::int64_t selectionOffset, std::int64_t selectionLength) const override;
+
+private:
+    std::u16string_view url_;
+};
+
+} // namespace CVN::Operation

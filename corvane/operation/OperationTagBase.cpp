@@ -1,0 +1,1 @@
+#include "corvane/operation/OperationTagBase.h"
