@@ -167,8 +167,17 @@ void addCorrection(const CVNTextCorrection& row, std::u16string_view typed) {
         });
 }
 
+/// Those are measured by their own notes.
+bool isOfWholeNote(const CVNTextOperation& row) {
+    using Number = CVNTextOperation::Number;
+    return row.ignoresRange || row.number == Number::renumberFootnotesIn ||
+           row.number == Number::reorderFootnoteDefinitionsIn ||
+           row.number == Number::renameUnusedFootnoteDefinitionsIn;
+}
+
 const bool areAdded = [] {
     for (const CVNTextOperation& row : CVNTextOperation::all()) {
+        if (isOfWholeNote(row)) continue;
         const bool isBlock = row.number == CVNTextOperation::Number::toggleBlockStyle;
         const bool isInline = row.number == CVNTextOperation::Number::toggleInlineStyle;
         for (const std::int64_t style : isBlock    ? std::vector<std::int64_t>{0, 7, 9, 10, 13}

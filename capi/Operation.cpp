@@ -32,14 +32,53 @@ static_assert(isSame(CORVANE_COMMAND_INSERT_NEWLINE, Commands::insertNewlineInRa
 static_assert(isSame(CORVANE_COMMAND_NORMALIZE_INDENTATION, Commands::normalizeIndentationInRange));
 static_assert(isSame(CORVANE_COMMAND_DELETE_PREVIOUS, Commands::deletePrevious));
 static_assert(isSame(CORVANE_COMMAND_DELETE_NEXT, Commands::deleteNext));
+static_assert(isSame(CORVANE_COMMAND_TOGGLE_TASK, Commands::toggleTask));
+static_assert(isSame(CORVANE_COMMAND_NORMALIZE_CALLOUT, Commands::normalizeCalloutInRange));
+static_assert(isSame(CORVANE_COMMAND_RENUMBER_ORDERED_LIST, Commands::renumberOrderedListInRange));
+static_assert(isSame(CORVANE_COMMAND_REMOVE_STRAY_META_COMMENT, Commands::removeStrayMetaCommentInRange));
+static_assert(isSame(CORVANE_COMMAND_ADD_TAG_TO_TOP, Commands::addTagToTop));
+static_assert(isSame(CORVANE_COMMAND_ADD_TAG_TO_BOTTOM, Commands::addTagToBottom));
+static_assert(isSame(CORVANE_COMMAND_REMOVE_TAG, Commands::removeTag));
+static_assert(isSame(CORVANE_COMMAND_RENAME_TAG, Commands::renameTag));
+static_assert(isSame(CORVANE_COMMAND_ESCAPE_TAG, Commands::escapeTag));
+static_assert(isSame(CORVANE_COMMAND_APPEND_TEXT, Commands::appendText));
+static_assert(isSame(CORVANE_COMMAND_APPEND_TEXT_EXACT, Commands::appendTextExact));
+static_assert(isSame(CORVANE_COMMAND_PREPEND_TEXT, Commands::prependText));
+static_assert(isSame(CORVANE_COMMAND_UPDATE_WIKI_LINKS, Commands::updateWikiLinks));
+static_assert(isSame(CORVANE_COMMAND_UPDATE_LINKS_URL, Commands::updateLinksURL));
+static_assert(isSame(CORVANE_COMMAND_REMOVE_LINK_WITH_URL, Commands::removeLinkWithURL));
+static_assert(isSame(CORVANE_COMMAND_INSERT_THEMATIC_BREAK, Commands::insertThematicBreak));
+static_assert(isSame(CORVANE_COMMAND_INSERT_TABLE, Commands::insertTable));
+static_assert(isSame(CORVANE_COMMAND_TOGGLE_FOLD, Commands::toggleFoldInRange));
+static_assert(isSame(CORVANE_COMMAND_FOLD_ALL_HEADING, Commands::foldAllHeadingSelectionRange));
+static_assert(isSame(CORVANE_COMMAND_UNFOLD_ALL_HEADING, Commands::unfoldAllHeadingSelectionRange));
+static_assert(isSame(CORVANE_COMMAND_UNFOLD_AT_RANGE_EDGES, Commands::unfoldAtRangeEdges));
+static_assert(isSame(CORVANE_COMMAND_ESCAPE_PIPES, Commands::escapePipesInRange));
+static_assert(isSame(CORVANE_COMMAND_INSERT_FOOTNOTE, Commands::insertFootnoteWithDefinitionText));
+static_assert(isSame(CORVANE_COMMAND_INSERT_FOOTNOTE_DEFINITION, Commands::insertFootnoteDefinitionWithText));
+static_assert(isSame(CORVANE_COMMAND_RENAME_UNUSED_FOOTNOTE_DEFINITIONS,
+                     Commands::renameUnusedFootnoteDefinitionsIn));
+static_assert(isSame(CORVANE_COMMAND_RENUMBER_FOOTNOTES, Commands::renumberFootnotesIn));
+static_assert(isSame(CORVANE_COMMAND_REORDER_FOOTNOTE_DEFINITIONS, Commands::reorderFootnoteDefinitionsIn));
+static_assert(isSame(CORVANE_COMMAND_MOVE_LINES_UP, Commands::moveLinesUpIn));
+static_assert(isSame(CORVANE_COMMAND_MOVE_LINES_DOWN, Commands::moveLinesDownIn));
+static_assert(isSame(CORVANE_COMMAND_SELECT_ALL_TEXT, Commands::selectAllTextIn));
+static_assert(isSame(CORVANE_COMMAND_MUTATE_TABLE, Commands::mutateTable));
+static_assert(isSame(CORVANE_COMMAND_JUMP_TABLE_CELL, Commands::jumpTableCell));
+static_assert(isSame(CORVANE_COMMAND_NORMALIZE_TABLES, Commands::normalizeTables));
 static_assert(isSame(CORVANE_INLINE_HIGHLIGHT_PURPLE, CVN::Operation::InlineToggles::HighlightPurple));
 static_assert(isSame(CORVANE_BLOCK_TASK_LIST, CVN::Operation::BlockToggles::TaskList));
 static_assert(isSame(CORVANE_BLOCK_CALLOUT_IMPORTANT, CVN::Operation::BlockToggles::CalloutImportant));
+static_assert(isSame(CORVANE_TABLE_ALIGN_RIGHT, CVN::Operation::MutateTableAction::AlignRight));
 static_assert(isSame(CORVANE_CORRECTION_FENCED_CODE, Corrections::fencedCodeCorrectionIn));
 static_assert(isSame(CORVANE_CORRECTION_LIST_ITEM_SPACE, Corrections::listItemSpaceCorrectionIn));
 static_assert(isSame(CORVANE_CORRECTION_CALLOUT, Corrections::calloutCorrectionIn));
 static_assert(isSame(CORVANE_CORRECTION_MATH_BLOCK, Corrections::mathBlockCorrectionIn));
 static_assert(isSame(CORVANE_CORRECTION_TABLE_SPACE, Corrections::tableSpaceCorrectionIn));
+static_assert(isSame(CORVANE_CORRECTION_PASTE, Corrections::pasteCorrectionIn));
+static_assert(isSame(CORVANE_CORRECTION_SELECTION, Corrections::selectionCorrectionIn));
+static_assert(isSame(CORVANE_CORRECTION_INVALID_CHARACTER, Corrections::invalidCharacterCorrectionIn));
+static_assert(isSame(CORVANE_CORRECTION_DELETE_WHITESPACE, Corrections::deleteWhitespaceCorrectionIn));
 
 // Rows of the tables of commands and of corrections
 
@@ -221,8 +260,8 @@ corvane_status corvane_note_run_correction(const corvane_note* note, corvane_cor
     const auto* const row = rowOf<CVNTextCorrection>(correction);
     if (!row) return CORVANE_ERROR_NUMBER;
     const std::int64_t total = note->ast.markdownLength();
-    if (!isWithin(location, length, total) ||
-        !isWithin(selection_location, selection_length, total - length + text_length))
+    const std::int64_t totalBehind = row->isOfSelection ? total : total - length + text_length;
+    if (!isWithin(location, length, total) || !isWithin(selection_location, selection_length, totalBehind))
         return CORVANE_ERROR_RANGE;
     return giveResults(row->run(note->ast, {location, length}, view(text, text_length),
                                 {selection_location, selection_length}),

@@ -527,7 +527,9 @@ CORVANE_API void corvane_results_destroy(corvane_results* results);
 CORVANE_API corvane_status corvane_note_apply_results(corvane_note* note, const corvane_results* results,
                                                       corvane_range* restyle, corvane_range* selection);
 
-/// A command. The comment tells what it takes besides range and selection.
+/// A command. The comment tells what it takes besides range and selection. A tag and the target of a wikilink
+/// are their segments with "/" between them, and with a backslash before a "/" or "\" in one, without
+/// markers.
 typedef int32_t corvane_command;
 enum {
     CORVANE_COMMAND_INDENT = 0,
@@ -536,8 +538,41 @@ enum {
     CORVANE_COMMAND_TOGGLE_BLOCK_STYLE = 3,  ///< a corvane_block_style
     CORVANE_COMMAND_INSERT_NEWLINE = 4,      ///< return: leaves an inline, or goes on with the block
     CORVANE_COMMAND_NORMALIZE_INDENTATION = 5,
-    CORVANE_COMMAND_DELETE_PREVIOUS = 6, ///< backspace, with a caret
-    CORVANE_COMMAND_DELETE_NEXT = 7,     ///< delete, with a caret
+    CORVANE_COMMAND_DELETE_PREVIOUS = 6,   ///< backspace, with a caret
+    CORVANE_COMMAND_DELETE_NEXT = 7,       ///< delete, with a caret
+    CORVANE_COMMAND_TOGGLE_TASK = 8,       ///< a corvane_task_change
+    CORVANE_COMMAND_NORMALIZE_CALLOUT = 9, ///< keeps one from being the title
+    CORVANE_COMMAND_RENUMBER_ORDERED_LIST = 10,
+    CORVANE_COMMAND_REMOVE_STRAY_META_COMMENT = 11, ///< of folds and previews
+    CORVANE_COMMAND_ADD_TAG_TO_TOP = 12,            ///< a tag
+    CORVANE_COMMAND_ADD_TAG_TO_BOTTOM = 13,         ///< a tag
+    CORVANE_COMMAND_REMOVE_TAG = 14,                ///< a tag
+    CORVANE_COMMAND_RENAME_TAG = 15,                ///< the old tag, the new one
+    CORVANE_COMMAND_ESCAPE_TAG = 16,                ///< a tag
+    CORVANE_COMMAND_APPEND_TEXT = 17,               ///< a text; goes before the last tags and the footnotes
+    CORVANE_COMMAND_APPEND_TEXT_EXACT = 18,         ///< a text
+    CORVANE_COMMAND_PREPEND_TEXT = 19,              ///< a text; goes below the title and its tags
+    CORVANE_COMMAND_UPDATE_WIKI_LINKS = 20, ///< old target, new one, whether to skip the title
+    CORVANE_COMMAND_UPDATE_LINKS_URL = 21, ///< the old URL, the new one
+    CORVANE_COMMAND_REMOVE_LINK_WITH_URL = 22, ///< a URL
+    CORVANE_COMMAND_INSERT_THEMATIC_BREAK = 23,
+    CORVANE_COMMAND_INSERT_TABLE = 24,
+    CORVANE_COMMAND_TOGGLE_FOLD = 25,
+    CORVANE_COMMAND_FOLD_ALL_HEADING = 26,
+    CORVANE_COMMAND_UNFOLD_ALL_HEADING = 27,
+    CORVANE_COMMAND_UNFOLD_AT_RANGE_EDGES = 28,
+    CORVANE_COMMAND_ESCAPE_PIPES = 29,
+    CORVANE_COMMAND_INSERT_FOOTNOTE = 30,            ///< the text of its definition
+    CORVANE_COMMAND_INSERT_FOOTNOTE_DEFINITION = 31, ///< its text
+    CORVANE_COMMAND_RENAME_UNUSED_FOOTNOTE_DEFINITIONS = 32,
+    CORVANE_COMMAND_RENUMBER_FOOTNOTES = 33,
+    CORVANE_COMMAND_REORDER_FOOTNOTE_DEFINITIONS = 34,
+    CORVANE_COMMAND_MOVE_LINES_UP = 35,
+    CORVANE_COMMAND_MOVE_LINES_DOWN = 36,
+    CORVANE_COMMAND_SELECT_ALL_TEXT = 37,
+    CORVANE_COMMAND_MUTATE_TABLE = 38,    ///< a corvane_table_change
+    CORVANE_COMMAND_JUMP_TABLE_CELL = 39, ///< 1 goes to the previous cell, else to the next
+    CORVANE_COMMAND_NORMALIZE_TABLES = 40,
 };
 
 /// Any other number is CORVANE_INLINE_BOLD.
@@ -580,6 +615,33 @@ enum {
     CORVANE_BLOCK_CALLOUT_IMPORTANT = 17,
 };
 
+/// What becomes of tasks. Any other number is CORVANE_TASK_TOGGLE.
+typedef int64_t corvane_task_change;
+enum {
+    CORVANE_TASK_TOGGLE = 0,
+    CORVANE_TASK_CHECK = 1,
+    CORVANE_TASK_UNCHECK = 2,
+};
+
+/// What becomes of the table at a range. Any other number changes nothing.
+typedef int64_t corvane_table_change;
+enum {
+    CORVANE_TABLE_ADD_ROW_ABOVE = 0,
+    CORVANE_TABLE_ADD_ROW_BELOW = 1,
+    CORVANE_TABLE_DELETE_ROW = 2,
+    CORVANE_TABLE_MOVE_ROW_UP = 3,
+    CORVANE_TABLE_MOVE_ROW_DOWN = 4,
+    CORVANE_TABLE_ADD_COLUMN_BEFORE = 5,
+    CORVANE_TABLE_ADD_COLUMN_AFTER = 6,
+    CORVANE_TABLE_DELETE_COLUMN = 7,
+    CORVANE_TABLE_MOVE_COLUMN_LEFT = 8,
+    CORVANE_TABLE_MOVE_COLUMN_RIGHT = 9,
+    CORVANE_TABLE_ALIGN_NONE = 10,
+    CORVANE_TABLE_ALIGN_LEFT = 11,
+    CORVANE_TABLE_ALIGN_CENTER = 12,
+    CORVANE_TABLE_ALIGN_RIGHT = 13,
+};
+
 /// How many commands there are; they are numbered from 0.
 CORVANE_API int32_t corvane_command_count(void);
 /// The name of a command in ASCII, such as "indent": the same in every version and language. Good for ever;
@@ -612,11 +674,15 @@ CORVANE_API corvane_status corvane_note_run_command(const corvane_note* note, co
 /// A correction of an edit, which the editor asks for before it makes that edit.
 typedef int32_t corvane_correction;
 enum {
-    CORVANE_CORRECTION_FENCED_CODE = 0,     ///< fences of code come in pairs
-    CORVANE_CORRECTION_LIST_ITEM_SPACE = 1, ///< no more blanks behind the marker of an item
-    CORVANE_CORRECTION_CALLOUT = 2,         ///< text stays a space away from the marker of a callout
-    CORVANE_CORRECTION_MATH_BLOCK = 3,      ///< "$$" does not swallow the text behind it
-    CORVANE_CORRECTION_TABLE_SPACE = 4,     ///< text stays a space away from the pipes of a table
+    CORVANE_CORRECTION_FENCED_CODE = 0,       ///< fences of code come in pairs
+    CORVANE_CORRECTION_LIST_ITEM_SPACE = 1,   ///< no more blanks behind the marker of an item
+    CORVANE_CORRECTION_CALLOUT = 2,           ///< text stays a space away from the marker of a callout
+    CORVANE_CORRECTION_MATH_BLOCK = 3,        ///< "$$" does not swallow the text behind it
+    CORVANE_CORRECTION_TABLE_SPACE = 4,       ///< text stays a space away from the pipes of a table
+    CORVANE_CORRECTION_PASTE = 5,             ///< a paste fits where it lands
+    CORVANE_CORRECTION_SELECTION = 6,         ///< a selection keeps inlines whole
+    CORVANE_CORRECTION_INVALID_CHARACTER = 7, ///< carriage returns become line feeds, and NUL goes
+    CORVANE_CORRECTION_DELETE_WHITESPACE = 8, ///< a deleted word takes a surplus space along
 };
 
 /// As with commands.
@@ -626,6 +692,8 @@ CORVANE_API corvane_correction corvane_correction_with_name(const char* name);
 
 /// Asks a correction about an edit, which is still to be made, and the selection that the editor would show
 /// behind it. When there are replacements, they are to be made instead of the edit.
+/// CORVANE_CORRECTION_SELECTION is asked about a change of the selection: the range is the selection as it
+/// was, there is no text, and what it answers replaces nothing.
 ///
 /// CORVANE_ERROR_NUMBER for what is no correction, CORVANE_ERROR_RANGE if the range does not lie in the text,
 /// or the selection not in the text behind the edit.

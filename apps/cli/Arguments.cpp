@@ -205,7 +205,7 @@ Offsets and lengths count UTF-16 code units.
 
 Example:
   printf 'some text' | corvane op toggleInlineStyle 0 --range 5,4)"},
-    {"correct", "Print what a correction of the keyboard makes of an edit", addCorrect, correct,
+    {"correct", "Print what a correction makes of an edit", addCorrect, correct,
      R"(The corrections are listed by --list. The edit would replace --range by --text, which is taken as it
 stands: a shell writes a line feed as $'\n', and a text that begins with - as --text=-. Printed is an array
 as "corvane op" prints it, [] if the edit is to be made as it is.
@@ -218,7 +218,8 @@ end of the note.
   text:TEXT             types each character of TEXT
   paste:TEXT            pastes TEXT as one edit
   select:OFFSET,LENGTH  selects, in UTF-16 code units
-  enter, backspace, bold, heading-2 ...
+  drag:OFFSET,LENGTH    selects as the mouse does, and keeps inlines whole
+  enter, backspace, bold, heading-2, move-up, toggle-task, fold, next-cell ...
 The others are listed by --list; "left*3" presses one three times. TEXT goes to the end of the line and has the
 escapes of JSON: \n is a line feed, \\ a backslash. Each key goes the whole road of an editor: corrections,
 command, edit, selection, painting. Printed is

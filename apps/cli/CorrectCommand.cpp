@@ -10,7 +10,7 @@ namespace {
 std::string listOfCorrections() {
     std::string list;
     for (const CVNTextCorrection& correction : CVNTextCorrection::all())
-        list += std::string(correction.name) + "\n";
+        list += std::string(correction.name) + "\n    " + correction.about + "\n";
     return list;
 }
 
@@ -23,9 +23,10 @@ Outcome correct(const Options& options) {
     const std::u16string text = textOfArgument("--text", required("--text", options.text));
     const auto length = static_cast<std::int64_t>(text.size());
     const CVNAST note = readNote(options);
-    requireInText("--range", range, note.markdownLength());
+    const std::int64_t total = note.markdownLength();
+    requireInText("--range", range, total);
     const CVNRange selection = options.selection.value_or(CVNRange{range.location + length, 0});
-    requireInText("--selection", selection, note.markdownLength() - range.length + length);
+    requireInText("--selection", selection, correction.isOfSelection ? total : total - range.length + length);
     return {jsonText(correction.run(note, range, text, selection)) + "\n"};
 }
 

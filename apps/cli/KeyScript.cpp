@@ -80,6 +80,41 @@ constexpr CommandKey commandKeys[] = {
     {"callout-warning", Command::toggleBlockStyle, 16},
     {"callout-important", Command::toggleBlockStyle, 17},
     {"normalize", Command::normalizeIndentationInRange, 0},
+    {"toggle-task", Command::toggleTask, 0},
+    {"check", Command::toggleTask, 1},
+    {"uncheck", Command::toggleTask, 2},
+    {"renumber", Command::renumberOrderedListInRange, 0},
+    {"move-up", Command::moveLinesUpIn, 0},
+    {"move-down", Command::moveLinesDownIn, 0},
+    {"select-all", Command::selectAllTextIn, 0},
+    {"thematic-break", Command::insertThematicBreak, 0},
+    {"table", Command::insertTable, 0},
+    {"fold", Command::toggleFoldInRange, 0},
+    {"fold-all", Command::foldAllHeadingSelectionRange, 0},
+    {"unfold-all", Command::unfoldAllHeadingSelectionRange, 0},
+    {"unfold-edges", Command::unfoldAtRangeEdges, 0},
+    {"clean-comments", Command::removeStrayMetaCommentInRange, 0},
+    {"next-cell", Command::jumpTableCell, 0},
+    {"previous-cell", Command::jumpTableCell, 1},
+    {"row-above", Command::mutateTable, 0},
+    {"row-below", Command::mutateTable, 1},
+    {"delete-row", Command::mutateTable, 2},
+    {"row-up", Command::mutateTable, 3},
+    {"row-down", Command::mutateTable, 4},
+    {"column-before", Command::mutateTable, 5},
+    {"column-after", Command::mutateTable, 6},
+    {"delete-column", Command::mutateTable, 7},
+    {"column-left", Command::mutateTable, 8},
+    {"column-right", Command::mutateTable, 9},
+    {"align-none", Command::mutateTable, 10},
+    {"align-left", Command::mutateTable, 11},
+    {"align-center", Command::mutateTable, 12},
+    {"align-right", Command::mutateTable, 13},
+    {"align-tables", Command::normalizeTables, 0},
+    {"escape-pipes", Command::escapePipesInRange, 0},
+    {"renumber-footnotes", Command::renumberFootnotesIn, 0},
+    {"sort-footnotes", Command::reorderFootnoteDefinitionsIn, 0},
+    {"mark-unused-footnotes", Command::renameUnusedFootnoteDefinitionsIn, 0},
 };
 
 Keyboard::Effect runCommand(Keyboard& keyboard, const KeyPress& key) {
@@ -90,8 +125,16 @@ Keyboard::Effect typeText(Keyboard& keyboard, const KeyPress& key) {
     return keyboard.type(key.text);
 }
 
+Keyboard::Effect pasteText(Keyboard& keyboard, const KeyPress& key) {
+    return keyboard.paste(key.text);
+}
+
 Keyboard::Effect selectRange(Keyboard& keyboard, const KeyPress& key) {
     return keyboard.select(*key.selection);
+}
+
+Keyboard::Effect dragRange(Keyboard& keyboard, const KeyPress& key) {
+    return keyboard.drag(*key.selection);
 }
 
 /// Why a line is no key.
@@ -130,13 +173,21 @@ Keys typedKeys(std::string_view escaped) {
 }
 
 Keys pasteKey(std::string_view escaped) {
-    return {{0, "paste", typeText, unescaped(escaped)}};
+    return {{0, "paste", pasteText, unescaped(escaped)}};
+}
+
+Keys rangeKey(const char* name, KeyPress::Action action, std::string_view word) {
+    const std::optional<CVNRange> range = rangeOf(word);
+    if (!range) throw BadKey(complaintAboutRange(std::string(word)));
+    return {{0, name, action, {}, range}};
 }
 
 Keys selectKey(std::string_view word) {
-    const std::optional<CVNRange> range = rangeOf(word);
-    if (!range) throw BadKey(complaintAboutRange(std::string(word)));
-    return {{0, "select", selectRange, {}, range}};
+    return rangeKey("select", selectRange, word);
+}
+
+Keys dragKey(std::string_view word) {
+    return rangeKey("drag", dragRange, word);
 }
 
 /// A key that takes what stands behind its name and a colon.
@@ -151,6 +202,7 @@ constexpr TakingKey takingKeys[] = {
     {"text", "TEXT", "types each character of a text", typedKeys},
     {"paste", "TEXT", "pastes a text as one edit", pasteKey},
     {"select", "OFFSET,LENGTH", "selects, in UTF-16 code units", selectKey},
+    {"drag", "OFFSET,LENGTH", "selects as the mouse does, and keeps inlines whole", dragKey},
 };
 
 // Lines

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Caret.h"
+#include "corvane/correction/InvalidCharacterCorrection.h"
 
 namespace Cli {
 
@@ -31,6 +32,12 @@ std::int64_t lengthOf(std::u16string_view text) {
     return static_cast<std::int64_t>(text.size());
 }
 
+/// Line endings as line feeds, and without NUL.
+std::u16string cleaned(std::u16string_view text) {
+    const auto results = CVN::Correction::InvalidCharacterCorrection().process(0, 0, text, 0, 0);
+    return std::u16string(results.empty() ? text : results.front().replacementString);
+}
+
 } // namespace
 
 Keyboard::Keyboard(CVNAST note) : note_(std::move(note)), selection_{note_.markdownLength(), 0} {
@@ -40,6 +47,13 @@ Keyboard::Keyboard(CVNAST note) : note_(std::move(note)), selection_{note_.markd
 
 // The road of a key that changes text
 
+Keyboard::Effect Keyboard::offer(Correction number, CVNRange range, std::u16string_view text,
+                                 CVNRange selection) {
+    const CVNTextCorrection& correction = rowOf(number);
+    const Results results = correction.run(note_, range, text, selection);
+    return results.empty() ? Effect() : apply(correction.name, results);
+}
+
 /// The key would replace a range by a text. The corrections are asked before the edit is made, with the
 /// selection that it would leave; the command looks at the selection as it is.
 Keyboard::Effect Keyboard::change(CVNRange range, std::u16string_view text, const CVNTextOperation* command) {
@@ -47,9 +61,8 @@ Keyboard::Effect Keyboard::change(CVNRange range, std::u16string_view text, cons
     const CVNRange behind = {range.location + lengthOf(text), 0};
     for (const Correction number : corrections) {
         if (!isEdit) break; // backspace at the start of the text, delete at its end
-        const CVNTextCorrection& correction = rowOf(number);
-        const Results results = correction.run(note_, range, text, behind);
-        if (!results.empty()) return apply(correction.name, results);
+        const Effect effect = offer(number, range, text, behind);
+        if (effect.by) return effect;
     }
     if (command) {
         const Results results = command->run(note_, selection_, selection_, {});
@@ -81,7 +94,14 @@ Keyboard::Effect Keyboard::paint(const char* by, CVNRange redraw, CVNRange selec
 // Keys
 
 Keyboard::Effect Keyboard::type(std::u16string_view text) {
-    return change(selection_, text);
+    return change(selection_, cleaned(text));
+}
+
+Keyboard::Effect Keyboard::paste(std::u16string_view text) {
+    const std::u16string clean = cleaned(text);
+    const CVNRange behind = {selection_.location + lengthOf(clean), 0};
+    const Effect effect = offer(Correction::pasteCorrectionIn, selection_, clean, behind);
+    return effect.by ? effect : change(selection_, clean);
 }
 
 Keyboard::Effect Keyboard::enter() {
@@ -89,24 +109,36 @@ Keyboard::Effect Keyboard::enter() {
 }
 
 Keyboard::Effect Keyboard::tab() {
-    const Effect effect = run(Command::indent);
+    Effect effect = run(Command::jumpTableCell, {CVNTextArgument{0, {}}});
+    if (!effect.by) effect = run(Command::indent);
     return effect.by ? effect : type(u"\t");
 }
 
 Keyboard::Effect Keyboard::shiftTab() {
-    return run(Command::outdent);
+    const Effect effect = run(Command::jumpTableCell, {CVNTextArgument{1, {}}});
+    return effect.by ? effect : run(Command::outdent);
+}
+
+/// A word that is deleted takes a space along. A single character doesn't: who takes back a typo goes on
+/// typing there.
+Keyboard::Effect Keyboard::deleteSelection() {
+    const Effect effect =
+        offer(Correction::deleteWhitespaceCorrectionIn, selection_, {}, {selection_.location, 0});
+    return effect.by ? effect : change(selection_, {});
 }
 
 Keyboard::Effect Keyboard::backspace() {
+    if (selection_.length > 0) return deleteSelection();
     const std::int64_t caret = selection_.location;
     const std::int64_t start = caret > 0 ? Caret::before(note_, caret) : caret;
-    return change(selectionOr(start, caret), {}, &rowOf(Command::deletePrevious));
+    return change(CVNRange::between(start, caret), {}, &rowOf(Command::deletePrevious));
 }
 
 Keyboard::Effect Keyboard::deleteForward() {
+    if (selection_.length > 0) return deleteSelection();
     const std::int64_t caret = selection_.location;
     const std::int64_t end = caret < note_.markdownLength() ? Caret::after(note_, caret) : caret;
-    return change(selectionOr(caret, end), {}, &rowOf(Command::deleteNext));
+    return change(CVNRange::between(caret, end), {}, &rowOf(Command::deleteNext));
 }
 
 Keyboard::Effect Keyboard::run(Command command, const CVNTextArguments& arguments) {
@@ -115,16 +147,17 @@ Keyboard::Effect Keyboard::run(Command command, const CVNTextArguments& argument
     return results.empty() ? Effect() : apply(row.name, results);
 }
 
-CVNRange Keyboard::selectionOr(std::int64_t start, std::int64_t end) const {
-    return selection_.length > 0 ? selection_ : CVNRange::between(start, end);
-}
-
 // Moving the caret
 
 Keyboard::Effect Keyboard::select(CVNRange range) {
     selection_ = range;
     goalColumn_.reset();
     return {};
+}
+
+Keyboard::Effect Keyboard::drag(CVNRange range) {
+    const Effect effect = offer(Correction::selectionCorrectionIn, selection_, {}, range);
+    return effect.by ? effect : select(range);
 }
 
 Keyboard::Effect Keyboard::left() {

@@ -33,10 +33,13 @@ public:
     const Painted& painted() const { return painted_; }
     CVNRange selection() const { return selection_; }
 
-    /// One edit: a character that is typed, or all that is pasted. It takes the selection's place.
+    /// A character that is typed in the selection's place.
     Effect type(std::u16string_view text);
+    /// Text that takes the selection's place as one edit.
+    Effect paste(std::u16string_view text);
     Effect enter();
-    /// Indents; where there is nothing to indent, types a tab.
+    /// Both go to another cell of a table, or else indent and outdent. Where there is nothing to indent, tab
+    /// types a tab.
     Effect tab();
     Effect shiftTab();
     /// Both delete the selection, or what a person takes for one character.
@@ -54,6 +57,8 @@ public:
     Effect down();
     /// The range must lie in the text.
     Effect select(CVNRange range);
+    /// As select(), but what grows over half of an inline takes in the rest of it.
+    Effect drag(CVNRange range);
 
 private:
     using Results = CVNASTTextOperations::Results;
@@ -63,11 +68,13 @@ private:
     CVNRange selection_;
     std::optional<std::int64_t> goalColumn_; ///< while up and down are pressed
 
+    Effect offer(CVNTextCorrection::Number correction, CVNRange range, std::u16string_view text,
+                 CVNRange selection);
     Effect change(CVNRange range, std::u16string_view text, const CVNTextOperation* command = nullptr);
     Effect edit(CVNRange range, std::u16string_view text);
     Effect apply(const char* by, const Results& results);
     Effect paint(const char* by, CVNRange redraw, CVNRange selection);
-    CVNRange selectionOr(std::int64_t start, std::int64_t end) const;
+    Effect deleteSelection();
     Effect moveToLine(std::int64_t from, std::int64_t lineStart);
 };
 

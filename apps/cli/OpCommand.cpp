@@ -35,7 +35,7 @@ std::string usage(const CVNTextOperation& operation) {
 std::string listOfOperations() {
     std::string list;
     for (const CVNTextOperation& operation : CVNTextOperation::all()) {
-        list += usage(operation) + "\n";
+        list += usage(operation) + "\n    " + operation.about + "\n";
         for (const CVNTextParameter& parameter : operation.parameters)
             if (isParameter(parameter))
                 list += "    " + std::string(parameter.name) + " is " + about(parameter) + "\n";
@@ -110,7 +110,7 @@ std::string applied(CVNAST note, const CVNASTTextOperations::Results& results, C
 Outcome op(const Options& options) {
     if (options.list) return {listOfOperations()};
     const Call call(options);
-    const CVNRange range = required("--range", options.range);
+    const CVNRange range = call.operation.ignoresRange ? CVNRange{} : required("--range", options.range);
     const CVNRange selection = options.selection.value_or(range);
     CVNAST note = readNote(options, fileOf(options, call));
     requireInText("--range", range, note.markdownLength());

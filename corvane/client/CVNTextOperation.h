@@ -83,6 +83,8 @@ struct CORVANE_EXPORT CVNTextOperation {
     std::array<CVNTextParameter, 3> parameters;
     Results (*run)(const CVNAST& note, CVNRange range, CVNRange selectionRange,
                    const CVNTextArguments& arguments);
+    /// It works on the whole note, and does not look at the range.
+    bool ignoresRange = false;
 
     /// All commands, each at the index of its number.
     static std::span<const CVNTextOperation> all();
@@ -90,7 +92,7 @@ struct CORVANE_EXPORT CVNTextOperation {
     static const CVNTextOperation* named(std::string_view name);
 };
 
-/// A correction of an edit: a method of CVNASTTextOperations.
+/// A correction of an edit, or of a change of the selection: a method of CVNASTTextOperations.
 struct CORVANE_EXPORT CVNTextCorrection {
     /// Fixed: later corrections are added behind.
     enum class Number : std::uint8_t {
@@ -111,6 +113,8 @@ struct CORVANE_EXPORT CVNTextCorrection {
     const char* about; ///< a sentence
     Results (*run)(const CVNAST& note, CVNRange range, std::u16string_view replacement,
                    CVNRange selectionRange);
+    /// Nothing is to be replaced: the range is the selection as it was, the text is empty.
+    bool isOfSelection = false;
 
     /// All corrections, each at the index of its number.
     static std::span<const CVNTextCorrection> all();

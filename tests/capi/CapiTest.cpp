@@ -453,14 +453,17 @@ TEST(Capi, CommandsAndCorrectionsAreNumberedAsTheirNames) {
                   corvane_command_with_name);
     expectNumbers("CORVANE_CORRECTION_", corvane_correction_count(), corvane_correction_name,
                   corvane_correction_with_name);
-    for (corvane_command command = -1; command <= corvane_command_count(); ++command) {
-        const bool isToggle =
-            command == CORVANE_COMMAND_TOGGLE_INLINE_STYLE || command == CORVANE_COMMAND_TOGGLE_BLOCK_STYLE;
-        EXPECT_EQ(corvane_command_argument_kind(command, 0),
-                  isToggle ? CORVANE_VALUE_INTEGER : CORVANE_VALUE_NONE);
-        for (const std::int32_t index : {-1, 1, 2, 3})
+    const corvane_value_kind kinds[] = {CORVANE_VALUE_STRING, CORVANE_VALUE_STRING, CORVANE_VALUE_BOOLEAN,
+                                        CORVANE_VALUE_NONE};
+    for (std::int32_t index = 0; index < 4; ++index) {
+        EXPECT_EQ(corvane_command_argument_kind(CORVANE_COMMAND_UPDATE_WIKI_LINKS, index), kinds[index]);
+        EXPECT_EQ(corvane_command_argument_kind(CORVANE_COMMAND_TOGGLE_TASK, index),
+                  index == 0 ? CORVANE_VALUE_INTEGER : CORVANE_VALUE_NONE);
+        for (const corvane_command command :
+             {corvane_command(-1), corvane_command(CORVANE_COMMAND_INDENT), corvane_command_count()})
             EXPECT_EQ(corvane_command_argument_kind(command, index), CORVANE_VALUE_NONE);
     }
+    EXPECT_EQ(corvane_command_argument_kind(CORVANE_COMMAND_TOGGLE_TASK, -1), CORVANE_VALUE_NONE);
 }
 
 /// "{range}text{selection} " of each.
@@ -490,9 +493,21 @@ std::string show(const CVNASTTextOperations::Results& results) {
     return out;
 }
 
+/// 1 and "e", by what the command takes.
+std::vector<corvane_argument> argumentsOf(const CVNTextOperation& row) {
+    std::vector<corvane_argument> arguments;
+    for (const CVNTextParameter& parameter : row.parameters) {
+        if (parameter.kind == CVNTextParameter::Kind::None) break;
+        const bool isText = parameter.kind == CVNTextParameter::Kind::Text;
+        arguments.push_back(isText ? corvane_argument{0, u"e", 1} : corvane_argument{1, nullptr, 0});
+    }
+    return arguments;
+}
+
 /// At every place of a note, with different range and selection.
 TEST(Capi, CommandsAndCorrectionsAnswerAsThoseOfTheLibrary) {
-    const std::u16string_view sample = u"## a *b*\n- c\n  - ```\n    d\n    ```\n> [!note]\n> | e |\n";
+    const std::u16string_view sample =
+        u"## a *b* #e\n- [ ] c\n  - ```\n    d\n    ```\n> [!note]\n> [[e]] [^1]\n\n| e |\n|-|\n";
     const Note note = noteOf(sample);
     const CVNAST expected = CVNAST::fromMarkdown(sample);
     const std::int64_t length = std::ssize(sample);
@@ -500,20 +515,25 @@ TEST(Capi, CommandsAndCorrectionsAnswerAsThoseOfTheLibrary) {
         const std::int64_t end = std::min(at + 3, length);
         corvane_results* results = nullptr;
         for (const CVNTextOperation& row : CVNTextOperation::all()) {
-            const corvane_argument style{7, nullptr, 0};
-            const std::int64_t count = row.parameters[0].kind == CVNTextParameter::Kind::Number;
+            const auto arguments = argumentsOf(row);
             ASSERT_EQ(corvane_note_run_command(note.get(), static_cast<corvane_command>(row.number), at,
-                                               end - at, end, 0, &style, count, &results),
+                                               end - at, end, 0, arguments.data(), std::ssize(arguments),
+                                               &results),
                       CORVANE_OK);
+            const CVNTextArgument same{1, u"e"};
             EXPECT_EQ(show(Results(results)),
-                      show(row.run(expected, {at, end - at}, {end, 0}, {CVNTextArgument{7, {}}})))
+                      show(row.run(expected, {at, end - at}, {end, 0}, {same, same, same})))
                 << row.name << " at " << at;
         }
         for (const CVNTextCorrection& row : CVNTextCorrection::all()) {
+            const std::u16string_view typed = row.isOfSelection ? u"" : u"`";
+            const CVNRange behind =
+                row.isOfSelection ? CVNRange{at / 2, length - at / 2} : CVNRange{at + 1, 0};
             ASSERT_EQ(corvane_note_run_correction(note.get(), static_cast<corvane_correction>(row.number), at,
-                                                  0, u"`", 1, at + 1, 0, &results),
+                                                  0, typed.data(), std::ssize(typed), behind.location,
+                                                  behind.length, &results),
                       CORVANE_OK);
-            EXPECT_EQ(show(Results(results)), show(row.run(expected, {at, 0}, u"`", {at + 1, 0})))
+            EXPECT_EQ(show(Results(results)), show(row.run(expected, {at, 0}, typed, behind)))
                 << row.name << " at " << at;
         }
     }

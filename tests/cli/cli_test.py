@@ -108,6 +108,9 @@ BAD_USAGE = [
     (["op", "indent", "3", "note.md", "--range", "0,0"], "too many: note.md; the command is indent [FILE]"),
     (["op", "toggleInlineStyle", "--range", "0,0"], "STYLE is missing behind toggleInlineStyle"),
     (["op", "toggleInlineStyle", "note.md", "--range", "0,0"], "STYLE: note.md is not a number"),
+    (["op", "updateWikiLinks", "a", "b", "1"], "SKIP_IN_TITLE: 1 is not yes or no"),
+    (["op", "renameTag", "a"], "TO is missing behind renameTag"),
+    (["op", "mutateTable", "1"], "--range is required"),
     (["op", "toggleInlineStyle", "-1", "--range", "0,0"], "STYLE: -1 is not a number"),
     (["op", "toggleInlineStyle", "0x1", "--range", "0,0"], "STYLE: 0x1"),
     (["op", "toggleBlockStyle", "99999999999999999999", "--range", "0,0"], "STYLE: 99999999999999999999"),
@@ -124,7 +127,7 @@ BAD_USAGE = [
 ]
 
 BAD_KEYS = [
-    ("entre", "there is no key entre; the keys are text:TEXT, paste:TEXT, select:OFFSET,LENGTH, enter, tab"),
+    ("entre", "there is no key entre; the keys are text:TEXT, paste:TEXT, select:OFFSET,LENGTH, drag:OFFSET,LENGTH, enter, tab"),
     ("Enter", "there is no key Enter"),
     ("enter enter", "there is no key enter enter"),
     ("enter:2", "there is no key enter:2"),
@@ -150,7 +153,7 @@ BAD_KEYS = [
 # Drawn notes: what stands there, the keys, and what a person wants then. "‸" is the caret, "⟦…⟧" a selection.
 DRAWN_KEYS = [
     # Text, as everywhere
-    ("‸", ['text:a\\tb \\"c"', "paste:\\r\\nd"], 'a\tb "c"\r\nd‸'),
+    ("‸", ['text:a\\tb \\"c"', "paste:\\r\\nd"], 'a\tb "c"\nd‸'),
     ("a⟦b⟧c", ["text:x"], "ax‸c"),
     ("a⟦b⟧c", ["paste:"], "a‸c"),
     ("a⟦b⟧c", ["backspace"], "a‸c"),
@@ -230,6 +233,33 @@ DRAWN_KEYS = [
     ("- ‸", ["text: a"], "- a‸"),
     ("‸", ["text:$$", "enter"], "$$\n‸\n$$"),
     ("| a |\n|---|\n|‸|", ["text:b c"], "| a |\n|---|\n| b c‸ |"),
+    ("a‸ b", ["paste:word"], "a word‸ b"),
+    ("> a‸", ["paste:\\r\\nb"], "> a\n> b‸"),
+    ("- ‸", ["paste:- [ ] milk"], "- milk‸"),
+    ("one ⟦two⟧ three", ["backspace"], "one ‸three"),
+    ("one ⟦two⟧ three", ["delete"], "one ‸three"),
+    ("a x‸ b", ["backspace"], "a ‸ b"),
+    ("⟦a⟧ **b** c", ["drag:0,4"], "⟦a **b**⟧ c"),
+    ("⟦a⟧ **b** c", ["drag:0,2"], "⟦a ⟧**b** c"),
+    # Lines, tasks, folds
+    ("a\nb‸\nc", ["move-up"], "b‸\na\nc"),
+    ("a‸\nb\nc", ["move-down*2"], "b\nc\na‸"),
+    ("a‸\nb", ["move-up"], "a‸\nb"),
+    ("- [ ] a‸", ["toggle-task"], "- [x] a‸"),
+    ("⟦- [ ] a\n- [x] b⟧", ["check", "uncheck"], "⟦- [ ] a\n- [ ] b⟧"),
+    ("1. a\n1. b‸\n1. c", ["renumber"], "1. a\n2. b‸\n3. c"),
+    ("# a\n‸b\n", ["fold"], '# a‸<!-- {"fold":true} -->\nb\n'),
+    ("# a\n‸b\n", ["fold", "fold"], "# a‸\nb\n"),
+    ("t\n\n# a‸\nb\n", ["fold-all", "unfold-all"], "t\n\n# a‸\nb\n"),
+    ("```\na‸\n```", ["select-all"], "```\n⟦a\n⟧```"),
+    ("```\na‸\n```", ["select-all*2"], "⟦```\na\n```⟧"),
+    # Tables
+    ("| a‸ | b |\n|---|---|\n", ["tab"], "| a | ⟦b⟧ |\n|---|---|\n"),
+    ("| a‸ | b |\n|---|---|\n", ["tab", "shift-tab"], "| ⟦a⟧ | b |\n|---|---|\n"),
+    ("| a‸ | b |\n|---|---|\n", ["next-cell", "previous-cell"], "| ⟦a⟧ | b |\n|---|---|\n"),
+    ("| a‸ |\n|---|\n", ["row-below", "text:b", "align-tables"], "| a   |\n|-----|\n| b‸   |\n"),
+    ("|a‸|b|\n|-|-|\n", ["column-right"], "|b|‸a|\n|-|-|\n"),
+    ("|a|b‸|\n|-|-|\n", ["align-right"], "|a|b‸|\n|-|-:|\n"),
 ]
 
 
@@ -650,11 +680,30 @@ class Commanding(CommandTest):
         operations, corrections = (run(command, "--list").stdout.decode() for command in ("op", "correct"))
         self.assertIn("\nindent\n", "\n" + operations)
         self.assertRegex(operations, r"\ntoggleBlockStyle STYLE\n    STYLE is a number: .*\b8 tasks\b")
-        for name in re.findall(r"^\w+", operations, re.MULTILINE):
-            arguments = ["0"] * len(re.findall(rf"^{name}(.*)$", operations, re.MULTILINE)[0].split())
+        for usage in re.findall(r"^\w.*$", operations, re.MULTILINE):
+            name, *parameters = usage.split()
+            arguments = ["yes" if parameter == "SKIP_IN_TITLE" else "0" for parameter in parameters]
             self.assertIsInstance(self.results("op", name, *arguments, "-", "--range", "0,0"), list)
-        for name in corrections.split():
+        for name in re.findall(r"^\w+", corrections, re.MULTILINE):
             self.assertIsInstance(self.results("correct", name, "--range", "0,0", "--text", "a"), list)
+
+    def test_commands_on_the_whole_note_need_no_range(self):
+        note = "#a [[b/c|d]]\n"
+        for words, expected in [
+            (["renameTag", "a", "é f"], "#é f# [[b/c|d]]\n"),
+            (["removeTag", "a"], "[[b/c|d]]\n"),
+            (["updateWikiLinks", "b", "x", "no"], "#a [[x/c|d]]\n"),
+            (["updateWikiLinks", "b", "x", "yes"], note),
+            (["appendTextExact", "-x", "-"], note + "-x"),
+        ]:
+            with self.subTest(words=words):
+                self.assertEqual(self.results("op", "--apply", "--", *words, note=note)["text"], expected)
+
+    def test_the_selection_is_corrected_in_the_text_as_it_stands(self):
+        words = ["correct", "selectionCorrectionIn", "--range", "0,1", "--text=", "--selection"]
+        self.assertEqual(self.results(*words, "0,5", note="a **b**"),
+                         [{"range": [0, 0], "text": "", "selection": [0, 7]}])
+        self.assert_refused(2, ["0,8", "of 7 code units"], *words, "0,8", stdin=b"a **b**")
 
     def test_one_result_stands_as_it_is_applied(self):
         style = ["op", "toggleInlineStyle", "0", "--range"]

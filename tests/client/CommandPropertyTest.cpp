@@ -29,19 +29,38 @@ std::uint64_t environmentNumber(const char* name, std::uint64_t otherwise) {
     return value ? std::strtoull(value, nullptr, 10) : otherwise;
 }
 
+/// Where an act is asked to work, and what it is given there.
+struct Place {
+    CVNRange range;
+    CVNRange selection;
+    std::u16string text;     ///< that is typed
+    std::u16string texts[3]; ///< arguments
+    bool flag = false;
+};
+
 /// A command or correction with all that it takes but the place.
 struct Act {
     std::string name;
-    std::function<Results(const CVNAST&, CVNRange, CVNRange, std::u16string_view)> run;
-    bool isCorrection = false;
+    std::function<Results(const CVNAST& note, const Place& place)> run;
+    const CVNTextCorrection* correction = nullptr;
 };
 
 template <class T, class... Parameters>
 Act ofHost(std::string name, Parameters... parameters) {
-    return {std::move(name),
-            [operation = T(parameters...)](const CVNAST& note, CVNRange range, CVNRange selection, auto) {
-                return note.resultForTextOperation(operation, range, selection);
+    return {std::move(name), [operation = T(parameters...)](const CVNAST& note, const Place& place) {
+                return note.resultForTextOperation(operation, place.range, place.selection);
             }};
+}
+
+CVNTextArguments argumentsOf(const CVNTextOperation& row, std::int64_t number, const Place& place) {
+    CVNTextArguments arguments;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const CVNTextParameter::Kind kind = row.parameters[i].kind;
+        if (kind == CVNTextParameter::Kind::Text) arguments[i].text = place.texts[i];
+        if (kind == CVNTextParameter::Kind::Flag) arguments[i].number = place.flag;
+        if (kind == CVNTextParameter::Kind::Number) arguments[i].number = number;
+    }
+    return arguments;
 }
 
 /// Every row of the tables, with each number that its parameter can be, and what only hosts make.
@@ -59,18 +78,20 @@ std::vector<Act> allActs() {
         ofHost<DeleteNext>("delete with tabs", tabs),
     };
     for (const CVNTextOperation& row : CVNTextOperation::all()) {
-        const bool hasStyles = row.parameters[0].kind == CVNTextParameter::Kind::Number;
-        for (std::int64_t number = 0; number <= (hasStyles ? 17 : 0); ++number)
+        const bool hasNumber = row.parameters[0].kind == CVNTextParameter::Kind::Number;
+        for (std::int64_t number = 0; number <= (hasNumber ? 17 : 0); ++number)
             acts.push_back({row.name + (" " + std::to_string(number)),
-                            [&row, number](const CVNAST& note, CVNRange range, CVNRange selection, auto) {
-                                return row.run(note, range, selection, {CVNTextArgument{number, {}}});
+                            [&row, number](const CVNAST& note, const Place& place) {
+                                return row.run(note, place.range, place.selection,
+                                               argumentsOf(row, number, place));
                             }});
     }
     for (const CVNTextCorrection& row : CVNTextCorrection::all())
         acts.push_back({row.name,
-                        [&row](const CVNAST& note, CVNRange range, CVNRange selection,
-                               std::u16string_view text) { return row.run(note, range, text, selection); },
-                        true});
+                        [&row](const CVNAST& note, const Place& place) {
+                            return row.run(note, place.range, place.text, place.selection);
+                        },
+                        &row});
     return acts;
 }
 
@@ -100,24 +121,28 @@ std::string show(const Results& results) {
     return out;
 }
 
-/// Where an act is asked to work, and what is typed there.
-struct Place {
-    CVNRange range;
-    CVNRange selection;
-    std::u16string text;
-};
+/// A tag, target, URL or text: mostly one that the notes have.
+std::u16string argument(RandomNote& random) {
+    constexpr std::u16string_view known[] = {
+        u"t",   u"a", u"a b", u"k",   u"g",   u"l",      u"b/c", u"j k", u"u v",  u"x\ny\n", u"#",  u"",
+        u"/a/", u"f", u"1",   u"\\/", u"- a", u"[b]: x", u"]",   u"|",   u"&amp", u"ÄB",     u"/u", u"a.png"};
+    return random.below(3) == 0 ? random.piece() : std::u16string(known[random.below(std::size(known))]);
+}
 
 Place placeOf(const Act& act, RandomNote& random, std::int64_t length) {
-    Place place{CVNRange::of(random.range(length)), {}, {}};
+    Place place{CVNRange::of(random.range(length)), {}, {}, {}};
     if (random.below(4) == 0) place.range = CVNRange::of(random.range(length));
     if (random.below(6) == 0) place.range.length = length - place.range.location;
+    for (std::u16string& text : place.texts)
+        text = argument(random);
+    place.flag = random.below(2) == 0;
     place.selection = place.range;
-    if (act.isCorrection) {
+    if (act.correction && !act.correction->isOfSelection) {
         constexpr std::u16string_view typed[] = {u"`",  u"``", u"```", u"$", u"$$",
                                                  u"\n", u"",   u"x",   u" ", u"|"};
         place.text = random.below(4) == 0 ? random.piece() : std::u16string(typed[random.below(10)]);
         place.selection = {place.range.location + static_cast<std::int64_t>(place.text.size()), 0};
-    } else if (random.below(5) == 0) {
+    } else if (random.below(5) == 0 || act.correction) {
         place.selection = CVNRange::of(random.range(length));
     }
     return place;
@@ -143,16 +168,17 @@ bool comeFromTheEnd(const Results& results) {
 std::string carryOut(const Act& act, CVNAST& note, const Place& place, Results& results) {
     const std::u16string before(note.markdown());
     const std::u16string tree = note.ast->toIndentedTree();
-    results = act.run(note, place.range, place.selection, place.text);
+    results = act.run(note, place);
     if (note.markdown() != before || note.ast->toIndentedTree() != tree) return "the note changed";
     if (results.empty()) return {};
     std::u16string expected = before;
     if (std::string fault = applyTo(expected, results); !fault.empty()) return fault;
     const bool wasSplit =
-        splitsPair(place.range, before) || (!act.isCorrection && splitsPair(place.selection, before));
+        splitsPair(place.range, before) ||
+        ((!act.correction || act.correction->isOfSelection) && splitsPair(place.selection, before));
     if (!wasSplit && splitsPair(results.back().proposedSelection, expected))
         return "the selection splits a pair";
-    if (act.isCorrection && !comeFromTheEnd(results)) return "the results are in the wrong order";
+    if (act.correction && !comeFromTheEnd(results)) return "the results are in the wrong order";
     note.applyTextOperationResults(results);
     if (note.markdown() != expected) return "the façade gives another text";
     return differenceFromFreshParse(*note.ast);
@@ -173,9 +199,10 @@ TEST(CommandProperty, OfRandomNotes) {
             Results results;
             const std::string fault = carryOut(act, note, place, results);
             ASSERT_EQ(fault, "") << act.name << " at " << show(place.range) << ", selection "
-                                 << show(place.selection) << " typing " << visible(place.text) << " in "
-                                 << visible(before) << " under " << nameOf(note.ast->ruleSet) << show(results)
-                                 << "\nseed " << seed << " round " << round;
+                                 << show(place.selection) << " typing " << visible(place.text)
+                                 << " arguments " << visible(place.texts[0]) << " " << visible(place.texts[1])
+                                 << " in " << visible(before) << " under " << nameOf(note.ast->ruleSet)
+                                 << show(results) << "\nseed " << seed << " round " << round;
         }
     }
 }

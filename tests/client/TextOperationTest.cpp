@@ -48,47 +48,233 @@ std::u16string after(std::u16string_view drawing, Act act) {
 
 // The tables
 
+CVNTextArgument number(std::int64_t number) {
+    return {number, {}};
+}
+
+CVNTextArgument text(std::u16string_view text) {
+    return {0, text};
+}
+
 TEST(TextOperation, CommandsAreThoseOfTheMethodsInAFixedOrder) {
     const struct {
         const char* name;
+        /// Null for what hosts make themselves.
         Results (*call)(const CVNAST& note, CVNRange at);
+        CVNTextArguments arguments;
         std::u16string_view before;
         std::u16string_view after;
     } cases[] = {
-        {"indent", [](const CVNAST& note, CVNRange at) { return note.indent(at, at); }, u"- a\n- b‸\n",
+        {"indent",
+         [](const CVNAST& note, CVNRange at) { return note.indent(at, at); },
+         {},
+         u"- a\n- b‸\n",
          u"- a\n  - b‸\n"},
-        {"outdent", [](const CVNAST& note, CVNRange at) { return note.outdent(at, at); }, u"- a\n  - b‸\n",
+        {"outdent",
+         [](const CVNAST& note, CVNRange at) { return note.outdent(at, at); },
+         {},
+         u"- a\n  - b‸\n",
          u"- a\n- b‸\n"},
         {"toggleInlineStyle",
-         [](const CVNAST& note, CVNRange at) { return note.toggleInlineStyle(at, at, 1); }, u"a ⟦b⟧\n",
+         [](const CVNAST& note, CVNRange at) { return note.toggleInlineStyle(at, at, 1); },
+         {number(1)},
+         u"a ⟦b⟧\n",
          u"a *⟦b⟧*\n"},
-        {"toggleBlockStyle", [](const CVNAST& note, CVNRange at) { return note.toggleBlockStyle(at, at, 1); },
-         u"a‸\n", u"## a‸\n"},
+        {"toggleBlockStyle",
+         [](const CVNAST& note, CVNRange at) { return note.toggleBlockStyle(at, at, 1); },
+         {number(1)},
+         u"a‸\n",
+         u"## a‸\n"},
         {"insertNewlineInRange",
-         [](const CVNAST& note, CVNRange at) { return note.insertNewlineInRange(at, at); }, u"- a‸\n",
+         [](const CVNAST& note, CVNRange at) { return note.insertNewlineInRange(at, at); },
+         {},
+         u"- a‸\n",
          u"- a\n- ‸\n"},
         {"normalizeIndentationInRange",
          [](const CVNAST& note, CVNRange at) { return note.normalizeIndentationInRange(at, at); },
-         u"⟦- a\n   - b⟧\n", u"⟦- a\n  - b⟧\n"},
-        {"deletePrevious", [](const CVNAST& note, CVNRange at) { return note.deletePrevious(at, at); },
-         u"## ‸a\n", u"‸a\n"},
-        {"deleteNext", [](const CVNAST& note, CVNRange at) { return note.deleteNext(at, at); }, u"‸## a\n",
+         {},
+         u"⟦- a\n   - b⟧\n",
+         u"⟦- a\n  - b⟧\n"},
+        {"deletePrevious",
+         [](const CVNAST& note, CVNRange at) { return note.deletePrevious(at, at); },
+         {},
+         u"## ‸a\n",
+         u"‸a\n"},
+        {"deleteNext",
+         [](const CVNAST& note, CVNRange at) { return note.deleteNext(at, at); },
+         {},
+         u"‸## a\n",
          u"‸# a\n"},
+        {"toggleTask",
+         [](const CVNAST& note, CVNRange at) { return note.toggleTask(at, at, 2); },
+         {number(2)},
+         u"- [x] a‸\n",
+         u"- [ ] a‸\n"},
+        {"normalizeCalloutInRange",
+         [](const CVNAST& note, CVNRange at) { return note.normalizeCalloutInRange(at, at); },
+         {},
+         u"> [!note]‸\n",
+         u"\n> [!note]‸\n"},
+        {"renumberOrderedListInRange",
+         [](const CVNAST& note, CVNRange at) { return note.renumberOrderedListInRange(at, at); },
+         {},
+         u"1. a\n3. b‸\n",
+         u"1. a\n2. b‸\n"},
+        {"removeStrayMetaCommentInRange",
+         [](const CVNAST& note, CVNRange at) { return note.removeStrayMetaCommentInRange(at, at); },
+         {},
+         u"⟦a <!-- {\"fold\":true} --> b⟧\n",
+         u"⟦a  b⟧\n"},
+        {"addTagToTop",
+         [](const CVNAST& note, CVNRange at) { return note.addTagToTop(u"x", at); },
+         {text(u"x")},
+         u"# a‸\nb\n",
+         u"# a‸\n#x\nb\n"},
+        {"addTagToBottom",
+         [](const CVNAST& note, CVNRange at) { return note.addTagToBottom(u"x y", at); },
+         {text(u"x y")},
+         u"‸a\n",
+         u"‸a\n\n#x y#\n"},
+        {"removeTag",
+         [](const CVNAST& note, CVNRange at) { return note.removeTag(u"x", at); },
+         {text(u"x")},
+         u"a #x b‸\n",
+         u"a b‸\n"},
+        {"renameTag",
+         [](const CVNAST& note, CVNRange at) { return note.renameTag(u"x", u"y", at); },
+         {text(u"x"), text(u"y")},
+         u"‸a #x #x/z\n",
+         u"‸a #y #y/z\n"},
+        {"escapeTag",
+         [](const CVNAST& note, CVNRange at) { return note.escapeTag(u"x", at); },
+         {text(u"x")},
+         u"‸a #x\n",
+         u"‸a \\#x\n"},
+        {"appendText",
+         [](const CVNAST& note, CVNRange at) { return note.appendText(u"t", at); },
+         {text(u"t")},
+         u"‸a\n\n#x\n",
+         u"‸a\nt\n\n#x\n"},
+        {"appendTextExact",
+         [](const CVNAST& note, CVNRange at) { return note.appendTextExact(u"t", at); },
+         {text(u"t")},
+         u"‸a\n",
+         u"‸a\nt"},
+        {"prependText",
+         [](const CVNAST& note, CVNRange at) { return note.prependText(u"t", at); },
+         {text(u"t")},
+         u"# a‸\nb\n",
+         u"# a‸\nt\nb\n"},
+        {"updateWikiLinks",
+         [](const CVNAST& note, CVNRange at) { return note.updateWikiLinks(u"x", u"y", true, at); },
+         {text(u"x"), text(u"y"), number(1)},
+         u"‸[[x]]\n[[x]]\n",
+         u"‸[[x]]\n[[y]]\n"},
+        {"updateLinksURL",
+         [](const CVNAST& note, CVNRange at) { return note.updateLinksURL(u"x y.png", u"z.png", at); },
+         {text(u"x y.png"), text(u"z.png")},
+         u"‸[a](x%20y.png)\n",
+         u"‸[a](z.png)\n"},
+        {"removeLinkWithURL",
+         [](const CVNAST& note, CVNRange at) { return note.removeLinkWithURL(u"x.png", at); },
+         {text(u"x.png")},
+         u"‸a ![b](x.png)\n",
+         u"‸a \n"},
+        {"insertThematicBreak",
+         [](const CVNAST& note, CVNRange at) { return note.insertThematicBreak(at, at); },
+         {},
+         u"a\n\n‸\n",
+         u"a\n\n- - -‸\n"},
+        {"insertTable",
+         [](const CVNAST& note, CVNRange at) { return note.insertTable(at, at); },
+         {},
+         u"‸\n",
+         u"| ‸  |   |\n|---|---|\n|   |   |\n"},
+        {"toggleFoldInRange",
+         [](const CVNAST& note, CVNRange at) { return note.toggleFoldInRange(at, at); },
+         {},
+         u"# a\n‸b\n",
+         u"# a‸<!-- {\"fold\":true} -->\nb\n"},
+        {"foldAllHeadingSelectionRange",
+         [](const CVNAST& note, CVNRange at) { return note.foldAllHeadingSelectionRange(at); },
+         {},
+         u"‸a\n\n# b\nc\n",
+         u"‸a\n\n# b<!-- {\"fold\":true} -->\nc\n"},
+        {"unfoldAllHeadingSelectionRange",
+         [](const CVNAST& note, CVNRange at) { return note.unfoldAllHeadingSelectionRange(at); },
+         {},
+         u"‸# a<!-- {\"fold\":true} -->\nb\n",
+         u"‸# a\nb\n"},
+        {"unfoldAtRangeEdges",
+         [](const CVNAST& note, CVNRange at) { return note.unfoldAtRangeEdges(at, at); },
+         {},
+         u"# a<!-- {\"fold\":true} -->\nb‸c\n",
+         u"# a\nb‸c\n"},
+        {"escapePipesInRange",
+         [](const CVNAST& note, CVNRange at) { return note.escapePipesInRange(at, at); },
+         {},
+         u"⟦a|b⟧|\n",
+         u"⟦a\\|b⟧|\n"},
+        {"insertFootnoteWithDefinitionText",
+         [](const CVNAST& note, CVNRange at) { return note.insertFootnoteWithDefinitionText(u"t", at, at); },
+         {text(u"t")},
+         u"a‸\n",
+         u"a[^0123456789]\n\n[^0123456789]: ⟦t⟧\n"},
+        {"insertFootnoteDefinitionWithText",
+         [](const CVNAST& note, CVNRange at) { return note.insertFootnoteDefinitionWithText(u"t", at, at); },
+         {text(u"t")},
+         u"a[^‸x]\n",
+         u"a[^x]\n\n[^x]: ⟦t⟧\n"},
+        {"renameUnusedFootnoteDefinitionsIn",
+         [](const CVNAST& note, CVNRange at) { return note.renameUnusedFootnoteDefinitionsIn(at, at); },
+         {},
+         u"‸[^3]: a\n",
+         u"‸[^3?]: a\n"},
+        {"renumberFootnotesIn",
+         [](const CVNAST& note, CVNRange at) { return note.renumberFootnotesIn(at, at); },
+         {},
+         u"‸a[^7]\n\n[^7]: b\n",
+         u"‸a[^1]\n\n[^1]: b\n"},
+        {"reorderFootnoteDefinitionsIn",
+         [](const CVNAST& note, CVNRange at) { return note.reorderFootnoteDefinitionsIn(at, at); },
+         {},
+         u"[^2]: a‸\n[^1]: b\n",
+         u"[^1]: b\n[^2]: a‸\n"},
+        {"moveLinesUpIn",
+         [](const CVNAST& note, CVNRange at) { return note.moveLinesUpIn(at, at); },
+         {},
+         u"a\nb‸\n",
+         u"b‸\na\n"},
+        {"moveLinesDownIn",
+         [](const CVNAST& note, CVNRange at) { return note.moveLinesDownIn(at, at); },
+         {},
+         u"a‸\nb\n",
+         u"b\na‸\n"},
+        {"selectAllTextIn",
+         [](const CVNAST& note, CVNRange at) { return note.selectAllTextIn(at, at); },
+         {},
+         u"a‸b\n",
+         u"⟦ab\n⟧"},
+        {"mutateTable", nullptr, {number(1)}, u"| a |\n|---|\n| b‸ |\n", u"| a |\n|---|\n| b |\n|‸|\n"},
+        {"jumpTableCell", nullptr, {number(0)}, u"| a‸ | b |\n|---|---|\n", u"| a | ⟦b⟧ |\n|---|---|\n"},
+        {"normalizeTables", nullptr, {}, u"|a‸|\n|-|\n", u"| a‸   |\n|-----|\n"},
     };
-    std::size_t number = 0;
+    std::size_t index = 0;
     for (const CVNTextOperation& row : CVNTextOperation::all()) {
-        ASSERT_LT(number, std::size(cases));
-        const auto& expected = cases[number];
+        ASSERT_LT(index, std::size(cases));
+        const auto& expected = cases[index];
         EXPECT_STREQ(row.name, expected.name);
-        EXPECT_EQ(static_cast<std::size_t>(row.number), number++);
+        EXPECT_EQ(static_cast<std::size_t>(row.number), index++);
         EXPECT_EQ(CVNTextOperation::named(expected.name), &row);
-        EXPECT_EQ(visible(after(expected.before, expected.call)), visible(expected.after)) << row.name;
-        const auto byRow = [&row](const CVNAST& note, CVNRange at) {
-            return row.run(note, at, at, {CVNTextArgument{1, {}}});
+        if (expected.call) {
+            EXPECT_EQ(visible(after(expected.before, expected.call)), visible(expected.after)) << row.name;
+        }
+        const auto byRow = [&](const CVNAST& note, CVNRange at) {
+            return row.run(note, row.ignoresRange ? CVNRange{7, 7} : at, at, expected.arguments);
         };
         EXPECT_EQ(visible(after(expected.before, byRow)), visible(expected.after)) << row.name;
     }
-    EXPECT_EQ(number, std::size(cases));
+    EXPECT_EQ(index, std::size(cases));
     EXPECT_EQ(CVNTextOperation::named("Indent"), nullptr);
     EXPECT_EQ(CVNTextOperation::named("calloutCorrectionIn"), nullptr);
 }
@@ -126,6 +312,26 @@ TEST(TextOperation, CorrectionsAreThoseOfTheMethodsInAFixedOrder) {
              return note.tableSpaceCorrectionIn(at, text, selection);
          },
          u"| a |\n|---|\n|‸|\n", u"x", u"| a |\n|---|\n| x‸ |\n"},
+        {"pasteCorrectionIn",
+         [](const CVNAST& note, CVNRange at, std::u16string_view text, CVNRange selection) {
+             return note.pasteCorrectionIn(at, text, selection);
+         },
+         u"> a‸ b\n", u"word\nx", u"> a word\n> x‸ b\n"},
+        {"selectionCorrectionIn",
+         [](const CVNAST& note, CVNRange at, std::u16string_view text, CVNRange selection) {
+             return note.selectionCorrectionIn(at, text, selection);
+         },
+         u"‸", u"", u""},
+        {"invalidCharacterCorrectionIn",
+         [](const CVNAST& note, CVNRange at, std::u16string_view text, CVNRange selection) {
+             return note.invalidCharacterCorrectionIn(at, text, selection);
+         },
+         u"a‸\n", u"b\r\nc", u"ab\nc‸\n"},
+        {"deleteWhitespaceCorrectionIn",
+         [](const CVNAST& note, CVNRange at, std::u16string_view text, CVNRange selection) {
+             return note.deleteWhitespaceCorrectionIn(at, text, selection);
+         },
+         u"one ⟦two⟧ three\n", u"", u"one ‸three\n"},
     };
     std::size_t number = 0;
     for (const CVNTextCorrection& row : CVNTextCorrection::all()) {
@@ -146,13 +352,26 @@ TEST(TextOperation, CorrectionsAreThoseOfTheMethodsInAFixedOrder) {
     EXPECT_EQ(CVNTextCorrection::named(""), nullptr);
 }
 
-TEST(TextOperation, OnlyStylesArePassedAsArguments) {
+TEST(TextOperation, SelectionsAreCorrectedByMethodAndRow) {
+    const CVNAST note = CVNAST::fromMarkdown(u"a **b** c");
+    const Results expected{{{0, 0}, u"", {0, 7}}};
+    EXPECT_EQ(note.selectionCorrectionIn({0, 1}, {}, {0, 5}), expected);
+    const CVNTextCorrection& row = *CVNTextCorrection::named("selectionCorrectionIn");
+    EXPECT_EQ(row.run(note, {0, 1}, {}, {0, 5}), expected);
+    EXPECT_EQ(row.run(note, {0, 1}, u"typed", {0, 5}), Results());
+    for (const CVNTextCorrection& each : CVNTextCorrection::all())
+        EXPECT_EQ(each.isOfSelection, &each == &row);
+}
+
+/// What tells arguments apart: names in capitals, none behind the last.
+TEST(TextOperation, RowsTellWhatTheyTake) {
     for (const CVNTextOperation& row : CVNTextOperation::all()) {
-        const bool isToggle = std::string_view(row.name).starts_with("toggle");
-        using Kind = CVNTextParameter::Kind;
-        EXPECT_EQ(row.parameters[0].kind, isToggle ? Kind::Number : Kind::None) << row.name;
-        EXPECT_EQ(row.parameters[1].kind, Kind::None) << row.name;
-        EXPECT_EQ(row.parameters[0].name != nullptr && row.parameters[0].about != nullptr, isToggle);
+        EXPECT_TRUE(std::string_view(row.about).ends_with('.')) << row.name;
+        bool isBehindLast = false;
+        for (const CVNTextParameter& parameter : row.parameters) {
+            isBehindLast = isBehindLast || parameter.kind == CVNTextParameter::Kind::None;
+            EXPECT_EQ(parameter.name == nullptr, isBehindLast) << row.name;
+        }
     }
 }
 
