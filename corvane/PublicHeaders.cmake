@@ -161,6 +161,7 @@ set(CORVANE_PUBLIC_HEADERS
     operation/OperationUnfoldRangeEdges.h
     operation/OperationUpdateLinks.h
     operation/OperationUpdateWikiLinks.h
+    operation/TagSpelling.h
     correction/CalloutCorrection.h
     correction/Correction.h
     correction/DeleteWhitespaceCorrection.h

@@ -37,7 +37,7 @@ COMMANDS = {
     "removeTag": ("Text #work #home‸\n", "work"),
     "renameTag": ("#work/now and #work‸\n", "work", "job"),
     "escapeTag": ("Text #work‸\n", "work"),
-    "appendText": ("Text‸\n\n#work\n", "More"),
+    "appendText": ("# Title‸\n\nText\n\n#work\n", "More"),
     "appendTextExact": ("Text‸\n", "More"),
     "prependText": ("# Title‸\n#work\nText\n", "More"),
     "updateWikiLinks": ("See [[Plan]] and [[Plan/Week|week]]‸\n", "Plan", "Old plan", "no"),

@@ -1,5 +1,8 @@
 #include "corvane/operation/DocumentParts.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "corvane/operation/LineWalk.h"
 
 namespace CVN::Operation {
@@ -61,6 +64,39 @@ Node::Iterator footnoteBefore(const Node::Iterator& footnote) {
     return isBlankLine(before.node) ? siblingBefore(before) : before;
 }
 
+/// Whether text directly below the block would become part of it.
+bool takesLinesBelow(const Node* block) {
+    constexpr std::uint16_t types[] = {Ondo::ONDO_LIST_NODE, Ondo::ONDO_BLOCK_QUOTE_NODE,
+                                       Ondo::ONDO_TABLE_NODE, Ondo::ONDO_HTML_BLOCK_NODE};
+    return std::find(std::begin(types), std::end(types), block->type) != std::end(types);
+}
+
+bool isBrokenByLines(const Node* block) {
+    return block->type != Ondo::ONDO_PARAGRAPH_NODE && block->type != Ondo::ONDO_ATX_HEADING_NODE &&
+           !isBlankLine(block);
+}
+
+/// Enough of the text at a place to tell what kind of block it makes: two lines, unless they are long.
+std::u16string_view startOfBlock(const Tree& tree, std::int64_t offset) {
+    constexpr std::int64_t longest = 1000;
+    const std::u16string_view text = tree.markdownIn({offset, std::min(longest, tree.length() - offset)});
+    const std::size_t first = text.find(u'\n');
+    return first == text.npos ? text : text.substr(0, text.find(u'\n', first + 1));
+}
+
+/// Whether the block at a place stays what it is below lines that go in there. Lines of a paragraph and items
+/// of a list may join it.
+bool leavesBlockBelow(const Tree& tree, std::u16string_view lines, const Node* block, std::int64_t offset) {
+    const std::u16string text = std::u16string(lines) + std::u16string(startOfBlock(tree, offset));
+    const Tree sample(text, tree.ruleSet);
+    const auto start = static_cast<std::int64_t>(lines.size());
+    Node::Iterator at = sample.root->begin();
+    for (at.firstChild(); at.end() <= start;)
+        at.nextSibling();
+    if (at->type != block->type) return false;
+    return at.offset == start || at->type == Ondo::ONDO_PARAGRAPH_NODE || at->type == Ondo::ONDO_LIST_NODE;
+}
+
 } // namespace
 
 Node* firstContentBlock(const Tree& tree) {
@@ -113,6 +149,59 @@ std::int64_t trailingFootnotesStart(const Tree& tree) {
         first = before;
     const Node::Iterator blank = siblingBefore(first);
     return isBlankLine(blank.node) ? blank.offset : first.offset;
+}
+
+InsertionPlace placeBehind(const Tree& tree, const Node::Iterator& block, std::int64_t offset) {
+    bool needsEmptyLine = false;
+    if (block.node && isBrokenByLines(block.node) && offset <= block.end()) {
+        offset = block.end();
+        needsEmptyLine = takesLinesBelow(block.node);
+    }
+    if (!isLineStart(tree, offset)) return {offset, needsEmptyLine ? u"\n\n" : u"\n"};
+    return {offset, needsEmptyLine ? emptyLineAt(tree, offset) : u""};
+}
+
+InsertionPlace bodyPlace(const Tree& tree) {
+    const Node::Iterator title = titleBlock(tree);
+    if (title.node) return placeBehind(tree, title, afterTitleAndTagline(tree));
+    const Node* const first = tree.root->firstChild;
+    return placeBehind(tree, title, isOfType(first, Ondo::ONDO_YAML_NODE) ? first->charCount : 0);
+}
+
+std::u16string withLineBelow(const Tree& tree, std::u16string lines, std::int64_t offset) {
+    if (offset >= tree.length()) return lines;
+    const Node* const block =
+        tree.iteratorAtOffset(offset, Ondo::LevelSetting::FirstLevel)->firstLevelAncestor();
+    if (isBlankLine(block)) return lines;
+    if (isDefinition(block) || !leavesBlockBelow(tree, lines, block, offset)) lines += u'\n';
+    return lines;
+}
+
+Node::Iterator lastContentBlock(const Tree& tree) {
+    const std::int64_t end = trailingFootnotesStart(tree);
+    Node::Iterator at = tree.root->begin();
+    at.lastChild();
+    while (at.node && (at.offset >= end || isBlankLine(at.node)))
+        at.previousSibling();
+    return at;
+}
+
+bool isLeftOpen(const Tree& tree, const Node::Iterator& block) {
+    if (!isOfType(block.node, Ondo::ONDO_FENCED_CODE_NODE) &&
+        !isOfType(block.node, Ondo::ONDO_HTML_BLOCK_NODE) &&
+        !isOfType(block.node, Ondo::ONDO_MATH_BLOCK_NODE))
+        return false;
+    const Tree sample(std::u16string(textOf(tree, block)) + u"\n\nx", tree.ruleSet);
+    return !isOfType(sample.root->lastChild, Ondo::ONDO_PARAGRAPH_NODE);
+}
+
+bool isTagline(const Tree& tree, const Node::Iterator& block) {
+    return block.node != titleBlock(tree).node && block.end() <= afterTitleAndTagline(tree) &&
+           isBlockOnlyTags(tree, block.node);
+}
+
+bool isDefinition(const Node* node) {
+    return isFootnote(node) || isOfType(node, Ondo::ONDO_LINK_REFERENCE_DEFINITION_NODE);
 }
 
 } // namespace CVN::Operation

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "corvane/scan/Export.h"
 #include "corvane/tree/Node.h"
@@ -28,5 +30,44 @@ CORVANE_EXPORT std::int64_t afterTitleAndTagline(const Ondo::Tree& tree);
 /// Where the footnote definitions begin that end the note, at most one blank line apart, with a blank line
 /// before the first of them; the length of the text when it ends in something else.
 CORVANE_EXPORT std::int64_t trailingFootnotesStart(const Ondo::Tree& tree);
+
+// Places for lines that a command adds. A place is the start of a line, or the end of a text whose last line
+// lacks its ending.
+
+/// Where lines can go, and what is to be written before them.
+struct InsertionPlace {
+    std::int64_t offset;
+    /// An ending that the line before lacks, and an empty line where the lines would become part of the list,
+    /// quote, table or HTML above them.
+    std::u16string_view above;
+};
+
+/// The place for what is to stand at `offset`, which lies behind the first line of `block`: no heading that
+/// is underlined, no list, table, fence or quote is broken up, so that behind one of these it is the end of
+/// that block. The block may be null.
+CORVANE_EXPORT InsertionPlace placeBehind(const Ondo::Tree& tree, const Ondo::Node::Iterator& block,
+                                          std::int64_t offset);
+
+/// The place for body text, see afterTitleAndTagline(); front matter stays first in a note without title.
+CORVANE_EXPORT InsertionPlace bodyPlace(const Ondo::Tree& tree);
+
+/// Lines with what is to follow them at a place: an empty line where they would swallow the block that begins
+/// or goes on there, or make another one of it, and always above a definition. The lines end in a line
+/// ending.
+CORVANE_EXPORT std::u16string withLineBelow(const Ondo::Tree& tree, std::u16string lines,
+                                            std::int64_t offset);
+
+/// The last block that is no blank line, before the footnotes that end the note; none when there isn't one.
+CORVANE_EXPORT Ondo::Node::Iterator lastContentBlock(const Ondo::Tree& tree);
+
+/// Whether a block of code, math or HTML lacks its end, so that all that is written below it belongs to it.
+/// This parses the block again.
+CORVANE_EXPORT bool isLeftOpen(const Ondo::Tree& tree, const Ondo::Node::Iterator& block);
+
+/// Whether a block is the line of tags below the title.
+CORVANE_EXPORT bool isTagline(const Ondo::Tree& tree, const Ondo::Node::Iterator& block);
+
+/// Whether a node is the definition of a link or footnote; it may be null.
+CORVANE_EXPORT bool isDefinition(const Ondo::Node* node);
 
 } // namespace CVN::Operation

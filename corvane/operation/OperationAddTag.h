@@ -8,7 +8,11 @@
 
 namespace CVN::Operation {
 
-/// Adds a tag at the end of a note, before its footnotes.
+/// Adds a tag at the end of a note, before the footnotes that end it.
+///
+/// Behind a tag it goes on in that line; behind other text it stands in a paragraph of its own, apart from a
+/// definition below by an empty line. Above a block of code, math or HTML that is left open, in which it
+/// would be no tag. Nothing happens for a name that no text spells.
 class CORVANE_EXPORT AddTag : public TagBase {
 public:
     explicit AddTag(std::u16string_view tag) : tag_(tag) {}

@@ -1,10 +1,79 @@
 #include "corvane/operation/OperationAddTagAtTop.h"
 
+#include "corvane/operation/DocumentParts.h"
+#include "corvane/operation/TagLine.h"
+
 namespace CVN::Operation {
 
-std::vector<Result> AddTagAtTop::run(const Ondo::Tree&, std::int64_t, std::int64_t, std::int64_t,
-                                     std::int64_t) const {
-    return {};
+using Ondo::Node;
+using Ondo::Tree;
+
+namespace {
+
+constexpr std::int64_t none = -1;
+
+/// Behind the first line, or behind the whole block when a tag would break it up.
+std::int64_t endOfTitle(const Tree& tree, Node::Iterator block) {
+    const std::int64_t blockEnd = placeBehind(tree, block, block.offset).offset;
+    if (blockEnd != block.offset) return blockEnd;
+    block.endOfLine();
+    return block.end();
+}
+
+/// The end of the tag that ends a line; none when the line ends in something else.
+std::int64_t endOfLastTag(const Tree& tree, std::int64_t lineStart) {
+    Node::Iterator at = leafAt(tree, lineStart);
+    at.endOfLine();
+    if (isLineEnding(at.node)) toPreviousLeaf(at);
+    if (isOfType(at.node, Ondo::ONDO_SPACE_NODE)) toPreviousLeaf(at);
+    return at.offset >= lineStart && isInTag(at.node) ? at.end() : none;
+}
+
+/// The same for the line behind the title, or behind one blank line there.
+std::int64_t endOfTagline(const Tree& tree, std::int64_t lineStart) {
+    for (int i = 0; i < 2 && lineStart < tree.length(); ++i) {
+        if (const std::int64_t end = endOfLastTag(tree, lineStart); end != none) return end;
+        const Node::Iterator line = tree.iteratorAtOffset(lineStart, Ondo::LevelSetting::FirstLevel);
+        if (!isBlank(line.node)) return none;
+        lineStart = line.end();
+    }
+    return none;
+}
+
+std::u16string belowTitle(const Tree& tree, const InsertionPlace& place, const std::u16string& tag) {
+    const std::u16string above(place.above);
+    if (!isLineStart(tree, place.offset)) return above + tag;
+    return above + withLineBelow(tree, tag + u'\n', place.offset);
+}
+
+/// The note has no title: a line stays free for one, and the caret is put there.
+std::vector<Result> firstTag(const Tree& tree, const std::u16string& tag) {
+    const InsertionPlace place = placeBehind(tree, {}, tree.length());
+    const std::u16string above(place.above);
+    const auto title = place.offset + static_cast<std::int64_t>(above.size());
+    return {Result(place.offset, 0, above + u'\n' + tag + u'\n', title, 0)};
+}
+
+} // namespace
+
+std::vector<Result> AddTagAtTop::run(const Tree& tree, std::int64_t, std::int64_t,
+                                     std::int64_t selectionOffset, std::int64_t selectionLength) const {
+    const Node::Iterator block(firstContentBlock(tree));
+    const std::int64_t offset = block.node ? endOfTitle(tree, block) : tree.length();
+    const std::u16string tag = encodedSegmentsToMarkdown(tree, offset, tag_);
+    if (tag.empty()) return {};
+    if (!block.node) return firstTag(tree, tag);
+
+    std::vector<Result> results;
+    const auto insert = [&](std::int64_t at, const std::u16string& text) {
+        Result::addToList(results, at, 0, text, selectionOffset, selectionLength);
+        return results;
+    };
+    if (isLeftOpen(tree, block)) return insert(block.offset, u'\n' + tag + u'\n');
+    if (isOnlyFootnotes(tree)) return insert(block.offset, tagAboveFootnotes(block.node, tag));
+    if (const std::int64_t end = endOfTagline(tree, offset); end != none) return insert(end, u' ' + tag);
+    const InsertionPlace place = placeBehind(tree, block, offset);
+    return insert(place.offset, belowTitle(tree, place, tag));
 }
 
 } // namespace CVN::Operation

@@ -7,7 +7,11 @@
 
 namespace CVN::Operation {
 
-/// Adds text at the end of a note, before its tags and footnotes.
+/// Adds lines of text at the end of a note: above a last block of nothing but tags, unless that is the line
+/// of tags below the title, and above the footnotes that end the note. An exact text goes to the very end as
+/// it stands. Nothing happens for an empty text.
+///
+/// The view of the text must outlive the command.
 class CORVANE_EXPORT AppendText : public Operation {
 public:
     AppendText(std::u16string_view text, bool exact) : text_(text), exact_(exact) {}

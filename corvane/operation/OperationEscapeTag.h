@@ -7,7 +7,9 @@
 
 namespace CVN::Operation {
 
-/// Turns a tag and those below it into plain text.
+/// Turns a tag and those below it into plain text, with a backslash before each marker.
+///
+/// The view of the name must outlive the command.
 class CORVANE_EXPORT EscapeTag : public TagBase {
 public:
     explicit EscapeTag(std::u16string_view tag) : tag_(tag) {}

@@ -7,7 +7,10 @@
 
 namespace CVN::Operation {
 
-/// Adds text below the title and the line of tags of a note.
+/// Adds lines of text below the title and the line of tags of a note, see bodyPlace(). An empty line keeps
+/// apart what would become another block. Nothing happens for an empty text.
+///
+/// The view of the text must outlive the command.
 class CORVANE_EXPORT PrependText : public Operation {
 public:
     explicit PrependText(std::u16string_view text) : text_(text) {}

@@ -7,7 +7,12 @@
 
 namespace CVN::Operation {
 
-/// Removes the links and images that lead to a URL.
+/// Removes the links and images that lead to one of FilenameMatch::filenameVariants() of a URL, with their
+/// text and a metadata comment directly behind. The URL must outlive the call.
+///
+/// It is the whole note, whatever the range. References count by what they are defined as; their definitions
+/// stay. One result a link, from the last to the first: what stands inside one goes with it. An empty list
+/// for an empty URL.
 class CORVANE_EXPORT RemoveLink : public Operation {
 public:
     explicit RemoveLink(std::u16string_view url) : url_(url) {}

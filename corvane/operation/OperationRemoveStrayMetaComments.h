@@ -5,7 +5,11 @@
 
 namespace CVN::Operation {
 
-/// Removes comments of folds and previews that lost what they belong to.
+/// Removes comments that begin in a range, or at its end, and lost what they belong to: a fold's that marks
+/// no head, and a preview's that does not directly follow a link. Quoted in code or math both stay.
+///
+/// One result a comment, from the last to the first. Previews are looked at only where no fold's comment
+/// stands before them in the range. An empty list for an empty range.
 class CORVANE_EXPORT RemoveStrayMetaComments : public Operation {
 public:
     std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,

@@ -7,7 +7,9 @@
 
 namespace CVN::Operation {
 
-/// Removes a tag and those below it.
+/// Removes a tag and those below it: with the blanks behind, or, for a tag with a parent, down to the parent.
+///
+/// The view of the name must outlive the command.
 class CORVANE_EXPORT RemoveTag : public TagBase {
 public:
     explicit RemoveTag(std::u16string_view tag) : tag_(tag) {}

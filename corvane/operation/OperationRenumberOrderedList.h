@@ -5,7 +5,13 @@
 
 namespace CVN::Operation {
 
-/// Gives the items of ordered lists their numbers.
+/// Gives the items of ordered lists their numbers, counted from what the first item of each list has, and
+/// moves the lines of an item whose marker gets longer or shorter along, so that they stay in it.
+///
+/// Takes all lists that the range touches, whole up to the outermost one. Nothing but digits and indentation
+/// changes, and a second run finds nothing to do. A number that is right but for zeros in front stays, and so
+/// does one whose successor would be too long for a marker. Results come from the last change to the first;
+/// an empty list when all is in order. Takes time linear in the lists.
 class CORVANE_EXPORT RenumberOrderedList : public Operation {
 public:
     std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,

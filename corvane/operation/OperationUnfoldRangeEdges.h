@@ -5,7 +5,11 @@
 
 namespace CVN::Operation {
 
-/// Opens the folds that hide the edges of a range.
+/// Opens all folds that hide the start or the end of a range, as an editor does before it touches or shows
+/// it. An edge on the line of a folded head is not hidden by that fold, and a caret behind the last line
+/// ending is hidden by none.
+///
+/// One result a fold, from the last to the first; all other folds stay. An empty list when both edges show.
 class CORVANE_EXPORT OperationUnfoldRangeEdges : public Operation {
 public:
     std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,

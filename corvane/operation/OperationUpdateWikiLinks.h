@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "corvane/operation/Operation.h"
@@ -7,7 +8,17 @@
 
 namespace CVN::Operation {
 
-/// Points the wikilinks of a note elsewhere.
+/// Points the wikilinks of a note elsewhere: those whose target is `from`, or begins with its segments, case
+/// folded. Both targets are encoded as by Ondo::Segments, and must outlive the call.
+///
+/// Range and selection say nothing about where: it is the whole note, but for the title line behind front
+/// matter where that is to be skipped. A link keeps its alias and the segments behind those of `from`. One
+/// result a link, from the last to the first.
+///
+/// The new text of a link parses as a wikilink to the new target, and everything around it as before. Links
+/// for which no spelling does, such as to a name with a line ending or with more than two segments, stay as
+/// they are, and so do the other links of their first-level block where it is their surroundings that make a
+/// name unspellable. Nothing happens to or from an empty target.
 class CORVANE_EXPORT UpdateWikiLinks : public Operation {
 public:
     UpdateWikiLinks(std::u16string_view from, std::u16string_view to, bool skipInTitle = false)
@@ -15,6 +26,15 @@ public:
 
     std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
                             std::int64_t selectionOffset, std::int64_t selectionLength) const override;
+
+    /// «[[target|alias]]»; an empty alias leaves no pipe. The alias goes in as it stands.
+    static std::u16string encodedSegmentsToMarkdownWikiLink(std::u16string_view encoded,
+                                                            std::u16string_view alias);
+    /// An encoded target as it is written in a wikilink: with a backslash before each "[", "]" and "|", and
+    /// before an "&" that could begin an entity.
+    static std::u16string encodedSegmentsToMarkdown(std::u16string_view encoded);
+    /// The reverse, with plain "/" between the segments.
+    static std::u16string decodedSegmentsFromMarkdown(std::u16string_view encoded);
 
 private:
     std::u16string_view from_;
