@@ -10,6 +10,7 @@ example that changes nothing.
 import argparse
 import json
 import re
+import shlex
 import subprocess
 import sys
 from pathlib import Path
@@ -140,7 +141,7 @@ class Corvane:
             selection, typed = ["--selection", parse(typed)[1]], ""
         else:
             selection = []
-        words = ["correct", name, "-", "--range", at, f"--text={typed}", *selection]
+        words = ["correct", name, "-", "--range", at, "--text", typed, *selection]
         results = json.loads(self.run(*words, text=text))
         for result in results:
             start, length = result["range"]
@@ -148,11 +149,19 @@ class Corvane:
         return draw(text, results[-1]["selection"]) if results else drawing
 
 
+def code(text):
+    """A text as a code span, its line endings as escapes."""
+    shown = text.removesuffix("\n").replace("\r", "\\r").replace("\n", "\\n")
+    return f"`` {shown} ``" if "`" in shown else f"`{shown}`"
+
+
 def example(usage, about, call, before, after):
     name = usage.split()[0]
     if after == before:
         sys.exit(f"the example of {name} changes nothing")
-    lines = [f"\n### {usage}\n\n", about[0] + "".join(f"\n- {line}" for line in about[1:]), "\n\n"]
+    lines = [f"\n### {usage}\n\n", about[0] + "\n" + "".join(f"\n- {line}" for line in about[1:]), "\n"]
+    if len(about) > 1:
+        lines.append("\n")
     return "".join(lines) + (call + "\n\n" if call else "") + beside(before, after)
 
 
@@ -161,13 +170,15 @@ def page(corvane):
     for usage, about in corvane.rows("op"):
         name = usage.split()[0]
         drawing, *arguments = COMMANDS.pop(name)
-        call = f"`{' '.join([name, *map(repr, arguments)])}`:" if arguments else ""
+        call = f"`{shlex.join([name, *arguments])}`:" if arguments else ""
         out += example(usage, about, call, drawing, corvane.after_command(name, drawing, arguments))
     out += "\n## Corrections\n"
     for usage, about in corvane.rows("correct"):
         drawing, typed = CORRECTIONS.pop(usage)
-        shown = "Dragged to" if usage == "selectionCorrectionIn" else "Typed" if typed else "Deleted"
-        call = f"{shown} `{json.dumps(typed, ensure_ascii=False)}`:" if typed else f"{shown}:"
+        if usage == "selectionCorrectionIn":
+            call = f"The selection is to become {code(typed)}:"
+        else:
+            call = f"The range is to become {code(typed)}:" if typed else "The range is to be deleted:"
         out += example(usage, about, call, drawing, corvane.after_correction(usage, drawing, typed))
     if COMMANDS or CORRECTIONS:
         sys.exit(f"examples without a row: {[*COMMANDS, *CORRECTIONS]}")

@@ -207,8 +207,9 @@ Example:
   printf 'some text' | corvane op toggleInlineStyle 0 --range 5,4)"},
     {"correct", "Print what a correction makes of an edit", addCorrect, correct,
      R"(The corrections are listed by --list. The edit would replace --range by --text, which is taken as it
-stands: a shell writes a line feed as $'\n', and a text that begins with - as --text=-. Printed is an array
-as "corvane op" prints it, [] if the edit is to be made as it is.
+stands: a shell writes a line feed as $'\n', a text that begins with - as --text=-, and none as --text ''.
+selectionCorrectionIn replaces nothing: --range is the selection as it was, and --selection the new one. Printed
+is an array as "corvane op" prints it, [] if the edit is to be made as it is.
 
 Example:
   printf '> [!TIP]' | corvane correct calloutCorrectionIn --range 8,0 --text a)"},

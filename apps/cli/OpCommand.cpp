@@ -111,7 +111,7 @@ Outcome op(const Options& options) {
     if (options.list) return {listOfOperations()};
     const Call call(options);
     const CVNRange range = call.operation.ignoresRange ? CVNRange{} : required("--range", options.range);
-    const CVNRange selection = options.selection.value_or(range);
+    const CVNRange selection = options.selection.value_or(options.range.value_or(CVNRange{}));
     CVNAST note = readNote(options, fileOf(options, call));
     requireInText("--range", range, note.markdownLength());
     requireInText("--selection", selection, note.markdownLength());

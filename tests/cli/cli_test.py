@@ -679,7 +679,7 @@ class Commanding(CommandTest):
     def test_lists(self):
         operations, corrections = (run(command, "--list").stdout.decode() for command in ("op", "correct"))
         self.assertIn("\nindent\n", "\n" + operations)
-        self.assertRegex(operations, r"\ntoggleBlockStyle STYLE\n    STYLE is a number: .*\b8 tasks\b")
+        self.assertRegex(operations, r"\ntoggleBlockStyle STYLE\n    Headings, .*\n    STYLE is a number: .*\b8 tasks\b")
         for usage in re.findall(r"^\w.*$", operations, re.MULTILINE):
             name, *parameters = usage.split()
             arguments = ["yes" if parameter == "SKIP_IN_TITLE" else "0" for parameter in parameters]
@@ -700,7 +700,7 @@ class Commanding(CommandTest):
                 self.assertEqual(self.results("op", "--apply", "--", *words, note=note)["text"], expected)
 
     def test_the_selection_is_corrected_in_the_text_as_it_stands(self):
-        words = ["correct", "selectionCorrectionIn", "--range", "0,1", "--text=", "--selection"]
+        words = ["correct", "selectionCorrectionIn", "--range", "0,1", "--text", "", "--selection"]
         self.assertEqual(self.results(*words, "0,5", note="a **b**"),
                          [{"range": [0, 0], "text": "", "selection": [0, 7]}])
         self.assert_refused(2, ["0,8", "of 7 code units"], *words, "0,8", stdin=b"a **b**")
@@ -778,6 +778,7 @@ class Keys(CommandTest):
 
     def test_every_key_in_every_place(self):
         names = [name for name in run("keys", "--list").stdout.decode().split("\n") if name and ":" not in name]
+        names.remove("select-all")  # and the next text would be all there is
         self.assertGreater(len(names), 30)
         length = len(WELCOME.read_text().encode("utf-16-le")) // 2
         chooser = random.Random(1)
