@@ -163,7 +163,9 @@ void addCorrection(const CVNTextCorrection& row, std::u16string_view typed) {
     add(std::string("correction/") + row.name + '/' + Util::utf8(Util::escape(typed)),
         [&row, typed](const CVNAST& note, CVNRange range) {
             const auto length = static_cast<std::int64_t>(typed.size());
-            benchmark::DoNotOptimize(row.run(note, range, typed, {range.location + length, 0}));
+            const CVNRange behind = row.isOfSelection ? CVNRange{range.location, range.length + 6}
+                                                      : CVNRange{range.location + length, 0};
+            benchmark::DoNotOptimize(row.run(note, range, typed, behind));
         });
 }
 
@@ -186,8 +188,8 @@ const bool areAdded = [] {
             addCommand(row, style);
     }
     for (const CVNTextCorrection& row : CVNTextCorrection::all())
-        for (const std::u16string_view typed : {u"`", u"$", u"\n", u" x"})
-            addCorrection(row, typed);
+        for (const std::u16string_view typed : {u"`", u"$", u"\n", u" x", u""})
+            if (typed.empty() || !row.isOfSelection) addCorrection(row, typed);
     return true;
 }();
 

@@ -137,11 +137,9 @@ class Corvane:
 
     def after_correction(self, name, drawing, typed):
         text, at = parse(drawing)
-        if name == "selectionCorrectionIn":
-            selection, typed = ["--selection", parse(typed)[1]], ""
-        else:
-            selection = []
-        words = ["correct", name, "-", "--range", at, "--text", typed, *selection]
+        is_selection = name == "selectionCorrectionIn"
+        edit = ["--selection", parse(typed)[1]] if is_selection else ["--text", typed]
+        words = ["correct", name, "-", "--range", at, *edit]
         results = json.loads(self.run(*words, text=text))
         for result in results:
             start, length = result["range"]

@@ -208,7 +208,7 @@ Example:
     {"correct", "Print what a correction makes of an edit", addCorrect, correct,
      R"(The corrections are listed by --list. The edit would replace --range by --text, which is taken as it
 stands: a shell writes a line feed as $'\n', a text that begins with - as --text=-, and none as --text ''.
-selectionCorrectionIn replaces nothing: --range is the selection as it was, and --selection the new one. Printed
+selectionCorrectionIn takes no text: --range is the selection as it was, and --selection the new one. Printed
 is an array as "corvane op" prints it, [] if the edit is to be made as it is.
 
 Example:

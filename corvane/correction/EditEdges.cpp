@@ -49,7 +49,8 @@ bool isOpener(const Node* leaf) {
 }
 
 bool isCloser(const Node* leaf) {
-    return leaf && leaf->isMarker() && leaf->maker && !leaf->nextMarker();
+    if (!leaf || !leaf->isMarker() || !leaf->maker) return false;
+    return !leaf->nextMarker() && leaf->type != Ondo::ONDO_HASHTAG_SEPARATOR_MARKER_NODE;
 }
 
 std::int64_t ChangedEnds::moved(std::int64_t position) const {

@@ -27,7 +27,8 @@ const Ondo::Node* leafEndingAt(const Ondo::Tree& tree, std::int64_t offset);
 /// in an empty text.
 const Ondo::Node* leafStartingAt(const Ondo::Tree& tree, std::int64_t offset);
 
-/// The first marker of its construct, and the last one. The single marker of a construct is both.
+/// The first marker of its construct, and the last one. The single marker of a construct is both. The
+/// separator that a tag ends in closes nothing: "#tag/".
 bool isOpener(const Ondo::Node* leaf);
 bool isCloser(const Ondo::Node* leaf);
 

@@ -13,9 +13,11 @@ bool isMarkerOf(const Node* node, const Node* construct) {
     return node && node->isMarker() && node->maker == construct;
 }
 
+/// A tag may end in a separator, which closes nothing: "#tag/".
 bool hasPair(const Node* node) {
     return node->category == Node::Category::Inline && node->firstChild != node->lastChild &&
-           isMarkerOf(node->firstChild, node) && isMarkerOf(node->lastChild, node);
+           isMarkerOf(node->firstChild, node) && isMarkerOf(node->lastChild, node) &&
+           !isOfType(node->lastChild, Ondo::ONDO_HASHTAG_SEPARATOR_MARKER_NODE);
 }
 
 bool hasParts(const Node* node) {

@@ -37,6 +37,10 @@ bool isSpace(char32_t c) {
     return Go::whitespace(c) || Go::unicodeWhitespace(c);
 }
 
+bool isBlank(std::u16string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char16_t unit) { return isSpace(unit); });
+}
+
 bool isSpacedBefore(const Ondo::Tree& tree, std::int64_t offset, const Node* leaf) {
     const char32_t before = characterBefore(tree, offset);
     if (isLineStart(tree, offset) || isSpace(before) || isOpener(leaf)) return true;
@@ -104,7 +108,7 @@ std::vector<Result> PasteWhitespaceCorrection::run(const Ondo::Tree& tree, std::
     before.isExempt = standTogether(before.beside, before.own);
     Edge behind{characterAt(tree, end), lastCharacter(replacement), false, false, isVerbatim, false};
     behind.isSpaced = isSpacedBehind(tree, end, right);
-    behind.mayDrop = behind.isSpaced && !startsLine;
+    behind.mayDrop = behind.isSpaced && !(startsLine && isBlank(replacement));
     behind.isExempt = standTogether(behind.own, behind.beside);
 
     const Change change{changeAt(before, spacesAtStart(replacement)),

@@ -13,8 +13,8 @@ namespace CVN::Correction {
 ///   count. None is needed before punctuation but for opening brackets and opening markers.
 /// - Where none is needed, spaces that the text brings along at that edge are dropped; of a text of nothing
 ///   else nothing is left. Tabs and line endings stay; a text that begins or ends in one needs no space.
-/// - Neither is put nor dropped in code, math and front matter, their markers included; nothing is dropped
-///   from what is pasted where a line starts.
+/// - Neither is put nor dropped in code, math and front matter, their markers included. Where a line starts
+///   nothing is dropped on the left, and nothing at all of a text of white space.
 /// - An edge is left alone where both sides are digits, or characters of a script that sets no spaces, where
 ///   either is a currency sign, and at the inner side of "«" and "»".
 ///

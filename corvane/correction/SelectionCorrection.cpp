@@ -47,18 +47,26 @@ Span withoutOwnMarkers(const Ondo::Tree& tree, const Span& grown, const Span& ol
     return span.isEmpty() || isInside(span, old) ? grown : span;
 }
 
-/// Takes in what a selection splits, and the markers around what it holds all of.
-Span withSplitConstructs(const Ondo::Tree& tree, const Span& selection) {
+/// Takes in what a selection splits of the constructs inside a limit.
+Span withSplitConstructs(const Ondo::Tree& tree, const Span& selection, const Span& limit) {
     Span span = selection;
     const std::vector<InlineConstruct> aroundStart = constructsAround(tree, selection.start);
     for (const InlineConstruct& each : aroundStart)
-        if (selection.end >= each.span.end) span.start = each.span.start;
+        if (selection.end >= each.span.end && isInside(each.span, limit)) span.start = each.span.start;
     for (const InlineConstruct& each : constructsAround(tree, selection.end))
-        if (selection.start <= each.span.start) span.end = each.span.end;
+        if (selection.start <= each.span.start && isInside(each.span, limit)) span.end = each.span.end;
     for (const InlineConstruct& each : aroundStart) {
-        if (selection.end >= each.span.end) continue;
-        if (span == each.content || each.touchesMarker(span)) span = each.span;
+        if (selection.end >= each.span.end || !isInside(each.span, limit)) continue;
+        if (each.touchesMarker(span)) span = each.span;
     }
+    return span;
+}
+
+/// Takes in the markers around what a selection holds all of.
+Span withMarkersAround(const Ondo::Tree& tree, const Span& selection) {
+    Span span = selection;
+    for (const InlineConstruct& each : constructsAround(tree, selection.start))
+        if (span == each.content) span = each.span;
     return span;
 }
 
@@ -99,7 +107,7 @@ void keepOnePart(const Ondo::Tree& tree, Span& span) {
     }
 }
 
-/// A shrunk selection without what it splits; empty when nothing is left.
+/// A selection without what it splits; empty when nothing is left.
 Span withoutSplitConstructs(const Ondo::Tree& tree, Span span) {
     for (Span before{0, 0}; !span.isEmpty() && !(span == before);) {
         before = span;
@@ -111,11 +119,28 @@ Span withoutSplitConstructs(const Ondo::Tree& tree, Span span) {
 }
 
 Span grown(const Ondo::Tree& tree, const Span& proposed, const Span& old) {
-    return withSplitConstructs(tree, withoutOwnMarkers(tree, proposed, old));
+    const Span span = withoutOwnMarkers(tree, proposed, old);
+    return withMarkersAround(tree, withSplitConstructs(tree, span, {0, tree.length()}));
+}
+
+/// What a key does to a selection that it shrinks. All that is split by that is the construct that the edge
+/// stood at.
+bool isOneStep(const Span& proposed, const Span& old) {
+    return (proposed.start == old.start && proposed.end == old.end - 1) ||
+           (proposed.end == old.end && proposed.start == old.start + 1);
+}
+
+/// A shrunk selection with the constructs that it splits and the old one held. One that splits none stays, so
+/// that the content of a construct can be selected.
+Span withKeptConstructs(const Ondo::Tree& tree, const Span& proposed, const Span& old) {
+    const Span span = withSplitConstructs(tree, proposed, old);
+    return span == proposed ? span : withMarkersAround(tree, span);
 }
 
 Span shrunk(const Ondo::Tree& tree, const Span& proposed, const Span& old) {
-    const Span span = withoutSplitConstructs(tree, proposed);
+    const bool isStep = isOneStep(proposed, old);
+    const Span span =
+        withoutSplitConstructs(tree, isStep ? proposed : withKeptConstructs(tree, proposed, old));
     if (!span.isEmpty()) return span;
     const bool hasStartMoved = proposed.start != old.start && proposed.end == old.end;
     const std::int64_t caret = hasStartMoved ? proposed.end : proposed.start;
@@ -125,9 +150,9 @@ Span shrunk(const Ondo::Tree& tree, const Span& proposed, const Span& old) {
 } // namespace
 
 std::vector<Result> SelectionCorrection::run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
-                                             std::u16string_view replacement, std::int64_t selectionOffset,
+                                             std::u16string_view replaceString, std::int64_t selectionOffset,
                                              std::int64_t selectionLength) const {
-    CORVANE_ASSERT(replacement.empty(), "SelectionCorrection");
+    CORVANE_ASSERT(replaceString == u"", "SelectionCorrection");
     const Ondo::Range selection = clampedTo(tree.length(), selectionOffset, selectionLength);
     if (selection.length == 0) return {};
     const Span old = withWholePairs(tree, clampedTo(tree.length(), offset, length));

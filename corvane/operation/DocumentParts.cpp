@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
 
@@ -64,16 +65,36 @@ Node::Iterator footnoteBefore(const Node::Iterator& footnote) {
     return isBlankLine(before.node) ? siblingBefore(before) : before;
 }
 
+/// Whether lines below the block would belong to it. This parses the block again.
+bool takesIn(const Tree& tree, const Node::Iterator& block, std::u16string_view lines) {
+    const Tree trial = trialParse(tree, std::u16string(textOf(tree, block)) + std::u16string(lines));
+    return !isOfType(trial.root->lastChild, Ondo::ONDO_PARAGRAPH_NODE);
+}
+
 /// Whether text directly below the block would become part of it.
-bool takesLinesBelow(const Node* block) {
+bool takesLinesBelow(const Tree& tree, const Node::Iterator& block) {
+    if (block->type == Ondo::ONDO_HTML_BLOCK_NODE)
+        return takesIn(tree, block, isLineStart(tree, block.end()) ? u"x" : u"\nx");
     constexpr std::uint16_t types[] = {Ondo::ONDO_LIST_NODE, Ondo::ONDO_BLOCK_QUOTE_NODE,
-                                       Ondo::ONDO_TABLE_NODE, Ondo::ONDO_HTML_BLOCK_NODE};
+                                       Ondo::ONDO_TABLE_NODE};
     return std::find(std::begin(types), std::end(types), block->type) != std::end(types);
 }
 
 bool isBrokenByLines(const Node* block) {
     return block->type != Ondo::ONDO_PARAGRAPH_NODE && block->type != Ondo::ONDO_ATX_HEADING_NODE &&
            !isBlankLine(block);
+}
+
+/// Whether a block is one line, with that which underlines it.
+bool isOfOneLine(const Node::Iterator& block) {
+    if (!block.node) return false;
+    Node::Iterator line = block;
+    line.endOfLine();
+    if (block->type == Ondo::ONDO_SETEXT_HEADING_NODE) {
+        ++line;
+        line.endOfLine();
+    }
+    return line.end() == block.end();
 }
 
 /// Enough of the text at a place to tell what kind of block it makes: two lines, unless they are long.
@@ -88,9 +109,9 @@ std::u16string_view startOfBlock(const Tree& tree, std::int64_t offset) {
 /// of a list may join it.
 bool leavesBlockBelow(const Tree& tree, std::u16string_view lines, const Node* block, std::int64_t offset) {
     const std::u16string text = std::u16string(lines) + std::u16string(startOfBlock(tree, offset));
-    const Tree sample(text, tree.ruleSet);
+    const Tree trial = trialParse(tree, text);
     const auto start = static_cast<std::int64_t>(lines.size());
-    Node::Iterator at = sample.root->begin();
+    Node::Iterator at = trial.root->begin();
     for (at.firstChild(); at.end() <= start;)
         at.nextSibling();
     if (at->type != block->type) return false;
@@ -155,17 +176,23 @@ InsertionPlace placeBehind(const Tree& tree, const Node::Iterator& block, std::i
     bool needsEmptyLine = false;
     if (block.node && isBrokenByLines(block.node) && offset <= block.end()) {
         offset = block.end();
-        needsEmptyLine = takesLinesBelow(block.node);
+        needsEmptyLine = takesLinesBelow(tree, block);
     }
     if (!isLineStart(tree, offset)) return {offset, needsEmptyLine ? u"\n\n" : u"\n"};
     return {offset, needsEmptyLine ? emptyLineAt(tree, offset) : u""};
 }
 
 InsertionPlace bodyPlace(const Tree& tree) {
-    const Node::Iterator title = titleBlock(tree);
-    if (title.node) return placeBehind(tree, title, afterTitleAndTagline(tree));
-    const Node* const first = tree.root->firstChild;
-    return placeBehind(tree, title, isOfType(first, Ondo::ONDO_YAML_NODE) ? first->charCount : 0);
+    const Node::Iterator title = isOnlyFootnotes(tree) ? Node::Iterator() : titleBlock(tree);
+    if (!title.node) {
+        const Node* const first = tree.root->firstChild;
+        return placeBehind(tree, title, isOfType(first, Ondo::ONDO_YAML_NODE) ? first->charCount : 0);
+    }
+    const InsertionPlace place = placeBehind(tree, title, afterTitleAndTagline(tree));
+    const Node::Iterator below = siblingBehind(title);
+    const bool isRightBehind = below.node && place.offset == below.offset;
+    const std::int64_t end = isRightBehind ? afterTagline(tree, below) : 0;
+    return end ? placeBehind(tree, {}, end) : place;
 }
 
 std::u16string withLineBelow(const Tree& tree, std::u16string lines, std::int64_t offset) {
@@ -191,12 +218,18 @@ bool isLeftOpen(const Tree& tree, const Node::Iterator& block) {
         !isOfType(block.node, Ondo::ONDO_HTML_BLOCK_NODE) &&
         !isOfType(block.node, Ondo::ONDO_MATH_BLOCK_NODE))
         return false;
-    const Tree sample(std::u16string(textOf(tree, block)) + u"\n\nx", tree.ruleSet);
-    return !isOfType(sample.root->lastChild, Ondo::ONDO_PARAGRAPH_NODE);
+    return takesIn(tree, block, u"\n\nx");
+}
+
+bool isOnlyFootnotes(const Tree& tree) {
+    if (trailingFootnotesStart(tree) == tree.length()) return false;
+    const Node* const last = lastContentBlock(tree).node;
+    return !last || last->type == Ondo::ONDO_YAML_NODE;
 }
 
 bool isTagline(const Tree& tree, const Node::Iterator& block) {
-    return block.node != titleBlock(tree).node && block.end() <= afterTitleAndTagline(tree) &&
+    const Node::Iterator title = titleBlock(tree);
+    return block.node != title.node && isOfOneLine(title) && block.offset < bodyPlace(tree).offset &&
            isBlockOnlyTags(tree, block.node);
 }
 

@@ -48,7 +48,8 @@ struct InsertionPlace {
 CORVANE_EXPORT InsertionPlace placeBehind(const Ondo::Tree& tree, const Ondo::Node::Iterator& block,
                                           std::int64_t offset);
 
-/// The place for body text, see afterTitleAndTagline(); front matter stays first in a note without title.
+/// The place for body text, see afterTitleAndTagline(), behind tags directly below the title's block as well.
+/// In a note without title, or of footnotes only, it is the start, or behind front matter.
 CORVANE_EXPORT InsertionPlace bodyPlace(const Ondo::Tree& tree);
 
 /// Lines with what is to follow them at a place: an empty line where they would swallow the block that begins
@@ -64,7 +65,12 @@ CORVANE_EXPORT Ondo::Node::Iterator lastContentBlock(const Ondo::Tree& tree);
 /// This parses the block again.
 CORVANE_EXPORT bool isLeftOpen(const Ondo::Tree& tree, const Ondo::Node::Iterator& block);
 
-/// Whether a block is the line of tags below the title.
+/// Whether no block but front matter, blank lines and the footnotes at the end makes up the note, and there
+/// are such footnotes.
+CORVANE_EXPORT bool isOnlyFootnotes(const Ondo::Tree& tree);
+
+/// Whether a block holds nothing but tags and begins with those below the title, which is a block of one line
+/// (underlined or not): below more than that, tags end what stands above them.
 CORVANE_EXPORT bool isTagline(const Ondo::Tree& tree, const Ondo::Node::Iterator& block);
 
 /// Whether a node is the definition of a link or footnote; it may be null.

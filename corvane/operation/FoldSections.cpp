@@ -7,6 +7,7 @@
 #include "corvane/inline/FoldMarker.h"
 #include "corvane/inline/Folding.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
 
@@ -19,12 +20,23 @@ namespace {
 constexpr std::u16string_view comment = Ondo::Inline::Folding::comment;
 constexpr auto commentLength = static_cast<std::int64_t>(comment.size());
 
-/// Where the same comments begin that stand directly before a marker.
+bool isComment(const Tree& tree, const Node::Iterator& at) {
+    return at->type == Ondo::ONDO_RAW_HTML_NODE && textOf(tree, at) == comment;
+}
+
+/// Whether a part of a block shows nothing: blanks, or the step to the next line.
+bool isEmpty(const Tree& tree, const Node::Iterator& at) {
+    if (isLineEnding(at.node) || isContainerMarker(at.node)) return true;
+    const bool isText = at->type == Ondo::ONDO_TEXT_NODE || at->type == Ondo::ONDO_SPACE_NODE;
+    return isText && textOf(tree, at).find_first_not_of(u" \t") == std::u16string_view::npos;
+}
+
+/// Where the same comments begin that stand before a marker with nothing that shows between them.
 std::int64_t startOfComments(Node::Iterator marker, const Tree& tree) {
     std::int64_t start = marker.offset;
     marker.previousSibling();
-    while (isOfType(marker.node, Ondo::ONDO_RAW_HTML_NODE) && textOf(tree, marker) == comment) {
-        start = marker.offset;
+    while (marker.node && (isEmpty(tree, marker) || isComment(tree, marker))) {
+        if (isComment(tree, marker)) start = marker.offset;
         marker.previousSibling();
     }
     return start;
@@ -70,8 +82,8 @@ public:
     }
 
     /// For each head that was added whether its comment folds it.
-    std::vector<bool> run() && {
-        const Tree trial(std::move(text_), tree_.ruleSet);
+    std::vector<bool> run() const {
+        const Tree trial = trialParse(tree_, text_);
         Node::Iterator at = trial.root->begin();
         std::vector<bool> results;
         for (const Place& each : places_) {
@@ -151,7 +163,7 @@ std::vector<FoldSection> thoseThatTakeComment(const std::vector<FoldSection>& se
     Trial trial(tree);
     for (const FoldSection& each : sections)
         if (!each.isFolded) trial.add(each);
-    const std::vector<bool> takes = std::move(trial).run();
+    const std::vector<bool> takes = trial.run();
     std::vector<FoldSection> kept;
     auto isTaken = takes.begin();
     for (const FoldSection& each : sections)
@@ -170,6 +182,8 @@ Ondo::Range selectionBehindFolds(const std::vector<FoldSection>& sections, const
                                  const Tree& tree) {
     Edge start = edgeBehindFolds(sections, selection.offset);
     Edge end = edgeBehindFolds(sections, selection.end());
+    // Behind the text of a folded head, up to the end of its line, stands only its comment.
+    if (end.isHidden) start.offset = std::min(start.offset, end.offset);
     if (needsLineEnding(sections, tree)) {
         if (selection.offset == tree.length()) ++start.offset;
         if (selection.end() == tree.length()) ++end.offset;

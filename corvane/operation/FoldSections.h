@@ -39,16 +39,17 @@ std::vector<FoldSection> thoseThatTakeComment(const std::vector<FoldSection>& se
 bool needsLineEnding(const std::vector<FoldSection>& sections, const Ondo::Tree& tree);
 
 /// Where a selection is when all sections are folded. One that starts in a section becomes a caret at the end
-/// of the outermost head that hides it, and one that ends in a section ends there. At the end of the text
-/// both move behind the line ending that the text may need.
+/// of the outermost head that hides it, and one that ends in a section ends there, as a caret where it
+/// started in the head's comment. At the end of the text both move behind the line ending that the text may
+/// need.
 Ondo::Range selectionBehindFolds(const std::vector<FoldSection>& sections, const Ondo::Range& selection,
                                  const Ondo::Tree& tree);
 
 /// The marker of a folded head.
 Ondo::Node::Iterator foldMarkerOf(const Ondo::Node* head);
 
-/// Adds the removal of a marker, and of the same comments directly before it: each of them would be the
-/// marker next.
+/// Adds the removal of a marker, and of the same comments before it with the blanks and line endings between
+/// them: each of them would be the marker next.
 void removeFold(std::vector<Result>& results, const Ondo::Node::Iterator& marker, const Ondo::Tree& tree,
                 const Ondo::Range& selection);
 

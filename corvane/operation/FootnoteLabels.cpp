@@ -15,19 +15,12 @@ bool isNumericLabel(std::u16string_view label) {
     return !label.empty() && std::all_of(label.begin(), label.end(), Ondo::Go::decimalNumber);
 }
 
-std::u16string unusedMark(const LabeledConnections& footnotes, const Ondo::LabeledNode* definition) {
-    std::u16string mark = u"?";
-    while (footnotes.lookupFirstReference(definition->label + mark))
+const std::u16string& UnusedMarks::operator()(const std::u16string& label) {
+    const auto [at, isNew] = marks_.try_emplace(label, u"?");
+    std::u16string& mark = at->second;
+    while (isNew && footnotes_.lookupFirstReference(label + mark))
         mark += u'?';
     return mark;
-}
-
-Tree trialParse(const Tree& tree, std::u16string_view text) {
-    Tree trial({}, tree.ruleSet);
-    for (const std::string_view rule : {"MathSpan", "MathBlock"}) // those that hosts switch off
-        if (!tree.ruleConfig().ruleInstanceByName(rule)) trial.removeRuleByName(rule);
-    trial.replaceAll(text);
-    return trial;
 }
 
 } // namespace CVN::Operation

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "corvane/operation/LineWalk.h"
 #include "corvane/scan/Export.h"
@@ -27,12 +28,18 @@ inline std::int64_t offsetIn(const Ondo::LabelEntry& entry, const Ondo::Node* no
     return offsetIn(entry.offset, entry.node, node);
 }
 
-/// What makes a definition's label no number and, as before, nothing that is referred to, when it goes in
-/// before the label's closing marker: a question mark, or as many as that takes.
-CORVANE_EXPORT std::u16string unusedMark(const Ondo::LabeledConnections& footnotes,
-                                         const Ondo::LabeledNode* definition);
+/// What makes the labels of definitions no numbers and, as before, nothing that is referred to, when it goes
+/// in before the closing marker of the label: a question mark, or as many as that takes. Each label is worked
+/// out once. The index must stay alive and the same.
+class CORVANE_EXPORT UnusedMarks {
+public:
+    explicit UnusedMarks(const Ondo::LabeledConnections& footnotes) : footnotes_(footnotes) {}
 
-/// Another tree, of a text of its own, with the rules of a tree.
-CORVANE_EXPORT Ondo::Tree trialParse(const Ondo::Tree& tree, std::u16string_view text);
+    const std::u16string& operator()(const std::u16string& label);
+
+private:
+    const Ondo::LabeledConnections& footnotes_;
+    std::unordered_map<std::u16string, std::u16string> marks_; ///< by label
+};
 
 } // namespace CVN::Operation

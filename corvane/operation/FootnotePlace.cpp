@@ -8,6 +8,7 @@
 
 #include "corvane/operation/FootnoteLabels.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
 
@@ -50,16 +51,18 @@ bool isOneOf(const std::uint16_t (&types)[N], const Node* node) {
     return std::find(std::begin(types), std::end(types), node->type) != std::end(types);
 }
 
-bool isFirstPipe(const Node* pipe) {
-    const Node* before = pipe->previousSibling;
+/// Whether a block marker stands before its block's text or cells, not behind.
+bool isOpening(const Node* marker) {
+    if (!isTablePipe(marker)) return marker->type != Ondo::ONDO_ATX_HEADING_CLOSE_MARKER_NODE;
+    const Node* before = marker->previousSibling;
     while (before && !isTablePipe(before))
         before = before->previousSibling;
     return !before;
 }
 
-/// The end of the outermost atomic inline that the offset lies strictly inside; otherwise the offset.
-std::int64_t behindAtomicInline(const Node::Iterator& leaf, std::int64_t offset) {
-    std::int64_t place = offset;
+/// The end of the outermost atomic inline that the offset lies strictly inside.
+Place behindAtomicInline(const Node::Iterator& leaf, std::int64_t offset) {
+    Place place;
     for (const Node* node = leaf.node; !node->isBlock(); node = node->parent) {
         const std::int64_t start = offsetIn(leaf.offset, leaf.node, node);
         const std::int64_t end = start + node->charCount;
@@ -68,104 +71,135 @@ std::int64_t behindAtomicInline(const Node::Iterator& leaf, std::int64_t offset)
     return place;
 }
 
-Place placeAtMarker(const Node::Iterator& marker, std::int64_t offset) {
-    const bool isAtStart = offset == marker.offset;
-    if (offset == marker.end()) return offset; // the end of the note
-    if (isTablePipe(marker.node)) return isAtStart && !isFirstPipe(marker.node) ? Place(offset) : Place();
-    if (isBlockMarker(marker.node)) return {};
-    return isAtStart ? offset : marker.end();
-}
-
 bool isInSurrogatePair(const Tree& tree, std::int64_t offset) {
     return (unitAt(tree, offset - 1) & 0xFC00) == 0xD800 && (unitAt(tree, offset) & 0xFC00) == 0xDC00;
 }
 
-/// Where the reference is wanted, whatever it does there.
+/// The offset, or past what it would split; none where no text goes.
 Place wantedPlace(const Tree& tree, const Node::Iterator& leaf, std::int64_t offset) {
     if (isOneOf(closedBlocks, leaf->parentBlock())) return {};
-    if (isLineEnding(leaf.node)) return offset < leaf.end() ? leaf.offset : offset;
-    const std::int64_t behind = behindAtomicInline(leaf, offset);
-    if (behind != offset) return behind;
-    if (leaf->isMarker()) return placeAtMarker(leaf, offset);
+    if (const Place behind = behindAtomicInline(leaf, offset)) return behind;
+    const bool isInside = leaf.offset < offset && offset < leaf.end();
+    const bool isBefore = leaf.offset == offset && offset < leaf.end();
+    if (isBlockMarker(leaf.node) && (isInside || (isBefore && isOpening(leaf.node)))) return {};
+    if (!isInside) return offset;
+    if (leaf->isMarker()) return leaf.end();
+    if (isLineEnding(leaf.node)) return leaf.offset;
     return isInSurrogatePair(tree, offset) ? offset + 1 : offset;
-}
-
-/// Behind the outermost inline that is there, or before a hard line break.
-Place placeOutside(const Node::Iterator& leaf) {
-    const Node* outermost = nullptr;
-    for (const Node* node = leaf.node; !node->isBlock() && node->type != Ondo::ONDO_TABLE_CELL_NODE;
-         node = node->parent)
-        if (node->category == Node::Category::Inline) outermost = node;
-    if (!outermost) return {};
-    const std::int64_t start = offsetIn(leaf.offset, leaf.node, outermost);
-    return outermost->type == Ondo::ONDO_HARD_LINE_BREAK_NODE ? start : start + outermost->charCount;
 }
 
 /// What has a form, and where it starts.
 using Forms = std::vector<std::pair<std::uint16_t, std::int64_t>>;
 
-/// Those from a node up to the node `end`, but for one subtree. Offsets count from the first node's.
-Forms formsFrom(Node::Iterator at, const Node* end, const Node* skipped) {
+/// The forms of a text but for one subtree: as they would be without it.
+Forms formsOf(const Tree& tree, const Node* left) {
     Forms forms;
-    const std::int64_t start = at.offset;
-    while (at.node != end) {
-        if (at.node == skipped) {
+    std::int64_t leftOut = 0;
+    Node::Iterator at = tree.root->begin();
+    while (at.node) {
+        if (at.node == left) {
+            leftOut = left->charCount;
             at.nextInSequenceSkippingSubtree();
             continue;
         }
-        if (!isOneOf(formlessNodes, at.node)) forms.emplace_back(at->type, at.offset - start);
+        if (!isOneOf(formlessNodes, at.node)) forms.emplace_back(at->type, at.offset - leftOut);
         at.nextInSequence();
     }
     return forms;
 }
 
-/// First-level blocks around that of an offset: from the nearest before it that isn't blank to the next
-/// blank line behind it, as far as that isn't many.
-struct Surroundings {
-    Node::Iterator first;
-    Node::Iterator last;
-};
-
-Surroundings surroundingsOf(const Node::Iterator& leaf) {
-    constexpr int furthest = 8;
-    Node::Iterator block;
-    block.node = leaf->firstLevelAncestor();
-    block.offset = offsetIn(leaf.offset, leaf.node, block.node);
-    block.level = 1;
-    Surroundings around{block, block};
-    for (int i = 0; i < furthest && around.first->previousSibling; ++i) {
-        around.first.previousSibling();
-        if (!isBlank(around.first.node)) break;
-    }
-    for (int i = 0; i < furthest && around.last->nextSibling; ++i) {
-        around.last.nextSibling();
-        if (isBlank(around.last.node)) break;
-    }
-    return around;
+/// A comment can come to fold its heading or item when there is more behind it, as with any word.
+bool isKept(const Forms::value_type& before, const Forms::value_type& after) {
+    return before == after || (before.second == after.second && before.first == Ondo::ONDO_RAW_HTML_NODE &&
+                               after.first == Ondo::ONDO_FOLD_MARKER_NODE);
 }
 
-bool isGoodAt(const Tree& tree, std::int64_t place, std::u16string_view reference) {
-    const auto [first, last] = surroundingsOf(leafAt(tree, place));
-    const auto length = static_cast<std::int64_t>(reference.size());
-    const std::int64_t lead = first.offset > 0 ? 1 : 0; // a blank line: there is no front matter
-    const std::int64_t start = lead + place - first.offset;
-    std::u16string text(static_cast<std::size_t>(lead), u'\n');
-    text += tree.markdownIn({first.offset, place - first.offset});
-    text += reference;
-    text += tree.markdownIn({place, last.end() - place});
+/// Goes on until a block that is blank, or isn't, as far as that isn't many.
+template <typename Step>
+void stepUntil(bool isBlankWanted, Node::Iterator& block, Step step) {
+    constexpr int furthest = 8;
+    for (int i = 0; i < furthest && step(block); ++i)
+        if (isBlank(block.node) == isBlankWanted) return;
+}
 
-    const Tree trial = trialParse(tree, text);
-    const Node::Iterator marker = leafAt(trial, start);
-    const Node* const made = selfOrAncestor(marker.node, Ondo::ONDO_FOOTNOTE_REFERENCE_NODE);
-    if (!made || marker.offset != start || made->firstChild != marker.node || made->charCount != length)
-        return false;
-    Node::Iterator content = trial.root->begin();
-    content.firstChild();
-    if (lead > 0) content.nextSibling();
-    Forms forms = formsFrom(content, nullptr, made);
-    for (auto& [type, offset] : forms)
-        if (lead + offset >= start + length) offset -= length;
-    return forms == formsFrom(first, last->nextInSequenceSkippingSubtree(), nullptr);
+bool stepBack(Node::Iterator& block) {
+    if (!block->previousSibling) return false;
+    block.previousSibling();
+    return true;
+}
+
+bool stepOn(Node::Iterator& block) {
+    if (!block->nextSibling) return false;
+    block.nextSibling();
+    return true;
+}
+
+/// The first-level blocks around a leaf, parsed with and without the reference: from the nearest before it
+/// that isn't blank, to the first behind it and a blank line, which decides what can be folded.
+class Trial {
+public:
+    Trial(const Tree& tree, const Node::Iterator& leaf, std::u16string_view reference)
+        : tree_(tree), reference_(reference) {
+        Node::Iterator block;
+        block.node = leaf->firstLevelAncestor();
+        block.offset = offsetIn(leaf.offset, leaf.node, block.node);
+        block.level = 1;
+        Node::Iterator last = block;
+        stepUntil(false, block, stepBack);
+        stepUntil(true, last, stepOn);
+        stepUntil(false, last, stepOn);
+        const std::int64_t lead = block.offset > 0 ? 1 : 0; // a blank line: there is no front matter
+        start_ = block.offset - lead;
+        text_.assign(static_cast<std::size_t>(lead), u'\n');
+        text_ += tree.markdownIn({block.offset, last.end() - block.offset});
+        forms_ = formsOf(trialParse(tree, text_), nullptr);
+    }
+
+    /// Whether the reference becomes one at a place, and all else stays what it is.
+    bool succeedsAt(std::int64_t place) const {
+        const std::int64_t start = place - start_;
+        std::u16string text = text_;
+        text.insert(static_cast<std::size_t>(start), reference_);
+        const Tree trial = trialParse(tree_, text);
+        const Node::Iterator marker = leafAt(trial, start);
+        const Node* const made = selfOrAncestor(marker.node, Ondo::ONDO_FOOTNOTE_REFERENCE_NODE);
+        if (!made || marker.offset != start || made->firstChild != marker.node ||
+            made->charCount != static_cast<std::int64_t>(reference_.size()))
+            return false;
+        const Forms forms = formsOf(trial, made);
+        return std::equal(forms_.begin(), forms_.end(), forms.begin(), forms.end(), isKept);
+    }
+
+private:
+    const Tree& tree_;
+    std::u16string_view reference_;
+    std::int64_t start_ = 0; ///< of the text, in the note
+    std::u16string text_;
+    Forms forms_;
+};
+
+/// Which edge of an inline around a place stands for it: the near one from the start of its text, and of a
+/// hard line break the one on its line.
+std::int64_t edgeOf(const Node* node, std::int64_t start, std::int64_t place) {
+    const Node* const first = node->firstChild;
+    const bool isAtStart = first && first->isMarker() && place == start + first->charCount;
+    const bool isBefore = isAtStart || node->type == Ondo::ONDO_HARD_LINE_BREAK_NODE;
+    return isBefore ? start : start + node->charCount;
+}
+
+/// At the edge of the innermost inline around a place where the reference succeeds.
+Place placeOutside(const Trial& trial, const Node::Iterator& leaf, std::int64_t place) {
+    constexpr int furthest = 8;
+    int tried = 0;
+    for (const Node* node = leaf.node; !node->isBlock() && tried < furthest; node = node->parent) {
+        const std::int64_t start = offsetIn(leaf.offset, leaf.node, node);
+        if (node->type == Ondo::ONDO_TABLE_CELL_NODE) break;
+        if (node->category != Node::Category::Inline || start >= place) continue;
+        place = edgeOf(node, start, place);
+        if (trial.succeedsAt(place)) return place;
+        ++tried;
+    }
+    return {};
 }
 
 } // namespace
@@ -175,9 +209,9 @@ std::optional<std::int64_t> footnotePlace(const Tree& tree, std::int64_t offset,
     if (tree.length() == 0) return offset;
     const Node::Iterator leaf = leafAt(tree, offset);
     const Place wanted = wantedPlace(tree, leaf, offset);
-    if (!wanted || isGoodAt(tree, *wanted, reference)) return wanted;
-    const Place outside = placeOutside(leafAt(tree, *wanted));
-    return outside && isGoodAt(tree, *outside, reference) ? outside : Place();
+    if (!wanted) return {};
+    const Trial trial(tree, leaf, reference);
+    return trial.succeedsAt(*wanted) ? wanted : placeOutside(trial, leafAt(tree, *wanted), *wanted);
 }
 
 } // namespace CVN::Operation

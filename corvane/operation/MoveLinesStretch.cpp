@@ -1,9 +1,12 @@
 #include "corvane/operation/MoveLinesStretch.h"
 
 #include <optional>
+#include <string_view>
 
 #include "corvane/inline/FoldMarker.h"
+#include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
 
@@ -11,6 +14,9 @@ using Ondo::Node;
 using Ondo::Inline::FoldMarkerNode;
 
 namespace {
+
+/// A row can't be indented this far where there is indented code.
+constexpr std::int64_t codeIndentation = 4;
 
 const Node* tableOf(const Node::Iterator& leaf) {
     return selfOrAncestor(leaf.node, Ondo::ONDO_TABLE_NODE);
@@ -46,11 +52,36 @@ LineStretch passedAt(const Node::Iterator& leaf, const LineStretch& lines) {
     return table ? linesOfBlocks(leaf, table, table) : LineStretch(leaf, leaf);
 }
 
-/// Whether a line could become a row of a table that a leaf above it lies in.
+/// Whether a line could become a row of a table that a leaf above it lies in. Tables stand at the left
+/// margin.
 bool joinsTable(const Ondo::Tree& tree, const Node::Iterator& above, std::int64_t line) {
-    while (unitAt(tree, line) == u' ' || unitAt(tree, line) == u'\t')
-        ++line;
-    return unitAt(tree, line) == u'|' && tableOf(above);
+    std::int64_t column = 0;
+    for (; unitAt(tree, line) == u' ' || unitAt(tree, line) == u'\t'; ++line)
+        column = columnBehind(unitAt(tree, line), column);
+    return unitAt(tree, line) == u'|' && (column < codeIndentation || isSimplified(tree)) && tableOf(above);
+}
+
+constexpr std::u16string_view openingFence = u"---";
+constexpr std::u16string_view otherClosingFence = u"...";
+
+/// Whether a line that starts at an offset is all this.
+bool isLine(const Ondo::Tree& tree, std::int64_t line, std::u16string_view wanted) {
+    for (const char16_t unit : wanted)
+        if (unitAt(tree, line++) != unit) return false;
+    return line == tree.length() || unitAt(tree, line) == u'\n' || unitAt(tree, line) == u'\r';
+}
+
+bool hasClosingFence(const Ondo::Tree& tree, std::int64_t from, std::int64_t end) {
+    for (std::int64_t at = from; at < end; ++at) {
+        const bool isFence = isLine(tree, at, openingFence) || isLine(tree, at, otherClosingFence);
+        if (isFence && isLineStart(tree, at)) return true;
+    }
+    return false;
+}
+
+bool knowsFrontMatter(const Ondo::Tree& tree) {
+    const Ondo::Tree trial = trialParse(tree, u"---\n---");
+    return isOfType(trial.root->firstChild, Ondo::ONDO_YAML_NODE);
 }
 
 } // namespace
@@ -101,6 +132,14 @@ bool crossesFrontMatter(const Ondo::Tree& tree, std::int64_t start, std::int64_t
     const Node* const content = matter->childWhere(
         [](const Node* child) { return child->type == Ondo::ONDO_YAML_CONTENT_ATTRIBUTE_NODE; });
     return !content || start < content->startOffset() || end > content->endOffset();
+}
+
+bool makesFrontMatter(const Ondo::Tree& tree, const LineStretch& upper, const LineStretch& lower) {
+    if (upper.start > 0 || !isLine(tree, lower.start, openingFence)) return false;
+    const std::int64_t behindFence = lower.start + static_cast<std::int64_t>(openingFence.size());
+    const bool isClosed =
+        hasClosingFence(tree, 0, lower.start) || hasClosingFence(tree, behindFence, tree.length());
+    return isClosed && knowsFrontMatter(tree);
 }
 
 LineStretch lineAbove(const Ondo::Tree& tree, const LineStretch& lines) {

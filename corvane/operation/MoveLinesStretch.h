@@ -45,6 +45,10 @@ bool isPartOfTable(const LineStretch& lines);
 /// Whether lines that lie between two offsets would move past a fence of front matter, or past all of it.
 bool crossesFrontMatter(const Ondo::Tree& tree, std::int64_t start, std::int64_t end);
 
+/// Whether a text without front matter would get some, were two stretches to change places, the lower one
+/// right behind the upper one. Reads on through the text only when a fence would come to be its first line.
+bool makesFrontMatter(const Ondo::Tree& tree, const LineStretch& upper, const LineStretch& lower);
+
 /// What lines pass: the line right above, or below them. Lines that aren't part of a table pass the
 /// folded section, or the table, that this line lies in. There must be one.
 LineStretch lineAbove(const Ondo::Tree& tree, const LineStretch& lines);

@@ -1,7 +1,6 @@
 #include "corvane/operation/OperationAddTag.h"
 
 #include "corvane/operation/DocumentParts.h"
-#include "corvane/operation/TagLine.h"
 
 namespace CVN::Operation {
 
@@ -33,8 +32,8 @@ Node::Iterator lastText(Node::Iterator block) {
 }
 
 /// A tag in a note without text: it goes above what there is, a block left open or footnotes.
-std::u16string firstTag(const Ondo::Tree& tree, const std::u16string& tag) {
-    if (isOnlyFootnotes(tree)) return tagAboveFootnotes(tree.root->firstChild, tag);
+std::u16string aboveAll(const Ondo::Tree& tree, const std::u16string& tag) {
+    if (isOnlyFootnotes(tree)) return withLineBelow(tree, tag + u'\n', 0);
     return lastContentBlock(tree).node ? tag + u"\n\n" : tag;
 }
 
@@ -45,14 +44,16 @@ std::vector<Result> AddTag::run(const Ondo::Tree& tree, std::int64_t, std::int64
     const Node::Iterator block = blockAbove(tree);
     const Node::Iterator last = block.node ? lastText(block) : tree.root->begin();
     const std::int64_t offset = block.node ? last.end() : 0;
-    std::u16string text = encodedSegmentsToMarkdown(tree, offset, tag_);
-    if (text.empty()) return {};
-    if (isInTag(last.node))
-        text.insert(0, u" ");
-    else if (block.node)
-        text.insert(0, u"\n\n").append(isDefinition(block->nextSibling) ? u"\n" : u"");
-    else
-        text = firstTag(tree, text);
+    std::u16string text;
+    if (isInTag(last.node)) text = encodedSegmentsToMarkdown(tree, offset, u" ", tag_);
+    if (text.empty()) {
+        text = encodedSegmentsToMarkdown(tag_);
+        if (text.empty()) return {};
+        if (!block.node)
+            text = aboveAll(tree, text);
+        else
+            text.insert(0, u"\n\n").append(isDefinition(block->nextSibling) ? u"\n" : u"");
+    }
 
     std::vector<Result> results;
     Result::addToList(results, offset, 0, text, selectionOffset, selectionLength);

@@ -1,7 +1,6 @@
 #include "corvane/operation/OperationAddTagAtTop.h"
 
 #include "corvane/operation/DocumentParts.h"
-#include "corvane/operation/TagLine.h"
 
 namespace CVN::Operation {
 
@@ -40,14 +39,8 @@ std::int64_t endOfTagline(const Tree& tree, std::int64_t lineStart) {
     return none;
 }
 
-std::u16string belowTitle(const Tree& tree, const InsertionPlace& place, const std::u16string& tag) {
-    const std::u16string above(place.above);
-    if (!isLineStart(tree, place.offset)) return above + tag;
-    return above + withLineBelow(tree, tag + u'\n', place.offset);
-}
-
-/// The note has no title: a line stays free for one, and the caret is put there.
-std::vector<Result> firstTag(const Tree& tree, const std::u16string& tag) {
+/// A line free for a title, where the caret goes, and the tag below it.
+std::vector<Result> belowEmptyTitle(const Tree& tree, const std::u16string& tag) {
     const InsertionPlace place = placeBehind(tree, {}, tree.length());
     const std::u16string above(place.above);
     const auto title = place.offset + static_cast<std::int64_t>(above.size());
@@ -59,21 +52,25 @@ std::vector<Result> firstTag(const Tree& tree, const std::u16string& tag) {
 std::vector<Result> AddTagAtTop::run(const Tree& tree, std::int64_t, std::int64_t,
                                      std::int64_t selectionOffset, std::int64_t selectionLength) const {
     const Node::Iterator block(firstContentBlock(tree));
-    const std::int64_t offset = block.node ? endOfTitle(tree, block) : tree.length();
-    const std::u16string tag = encodedSegmentsToMarkdown(tree, offset, tag_);
+    const std::u16string tag = encodedSegmentsToMarkdown(tag_);
     if (tag.empty()) return {};
-    if (!block.node) return firstTag(tree, tag);
+    if (!block.node) return belowEmptyTitle(tree, tag);
 
     std::vector<Result> results;
     const auto insert = [&](std::int64_t at, const std::u16string& text) {
-        Result::addToList(results, at, 0, text, selectionOffset, selectionLength);
+        if (!text.empty()) Result::addToList(results, at, 0, text, selectionOffset, selectionLength);
         return results;
     };
     if (isLeftOpen(tree, block)) return insert(block.offset, u'\n' + tag + u'\n');
-    if (isOnlyFootnotes(tree)) return insert(block.offset, tagAboveFootnotes(block.node, tag));
-    if (const std::int64_t end = endOfTagline(tree, offset); end != none) return insert(end, u' ' + tag);
+    if (isOnlyFootnotes(tree)) return insert(block.offset, withLineBelow(tree, tag + u'\n', block.offset));
+
+    const std::int64_t offset = endOfTitle(tree, block);
+    const std::int64_t end = endOfTagline(tree, offset);
+    if (end != none) return insert(end, encodedSegmentsToMarkdown(tree, end, u" ", tag_));
     const InsertionPlace place = placeBehind(tree, block, offset);
-    return insert(place.offset, belowTitle(tree, place, tag));
+    const std::u16string line = encodedSegmentsToMarkdown(tree, place.offset, place.above, tag_);
+    if (line.empty() || !isLineStart(tree, place.offset)) return insert(place.offset, line);
+    return insert(place.offset, withLineBelow(tree, line + u'\n', place.offset));
 }
 
 } // namespace CVN::Operation

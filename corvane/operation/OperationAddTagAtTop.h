@@ -13,7 +13,7 @@ namespace CVN::Operation {
 /// A line of tags there, or behind one blank line, goes on with it; otherwise it gets a line of its own,
 /// behind the whole first block where a line would break that up, and apart from what it would change below.
 /// A note without text gets an empty first line as well, with the caret. Nothing happens for a name that no
-/// text spells.
+/// text spells there.
 class CORVANE_EXPORT AddTagAtTop : public TagBase {
 public:
     explicit AddTagAtTop(std::u16string_view tag) : tag_(tag) {}

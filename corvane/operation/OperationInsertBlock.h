@@ -10,7 +10,7 @@ namespace CVN::Operation {
 /// join it.
 ///
 /// Answers one result with a caret, behind the break or in the table's first cell. An empty list where the
-/// range reaches into front matter or into the lines of a table.
+/// range reaches into front matter or into the lines of a table that it does not cover whole.
 class CORVANE_EXPORT InsertBlock : public Operation {
 public:
     explicit InsertBlock(InsertBlockType type) : type_(type) {}

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "corvane/operation/DocumentParts.h"
 #include "corvane/operation/FootnoteLabels.h"
 #include "corvane/operation/LineWalk.h"
 
@@ -52,11 +53,9 @@ Place placeAmongDefinitions(const Connections& footnotes, std::int64_t offset) {
 
 /// Whether what is appended to the note belongs to its last block, even behind an empty line.
 bool isOpenAtEnd(const Tree& tree) {
-    const Node* const last = tree.root->lastChild;
-    if (!isVerbatim(last) && !isOfType(last, Ondo::ONDO_HTML_BLOCK_NODE)) return false;
-    std::u16string text(tree.markdownIn({tree.length() - last->charCount, last->charCount}));
-    const Tree trial = trialParse(tree, text + u"\n\n[^a]: b");
-    return !isOfType(trial.root->lastChild, Ondo::ONDO_FOOTNOTE_DEFINITION_NODE);
+    Node::Iterator last = tree.root->begin();
+    last.lastChild();
+    return last.node && isLeftOpen(tree, last);
 }
 
 /// What ends the last line where it isn't ended.

@@ -23,7 +23,7 @@ bool isSpace(const Node* node) {
 Node::Iterator cellAt(const Ondo::Tree& tree, std::int64_t offset) {
     Node::Iterator at = leafAt(tree, offset);
     toRowChild(at);
-    if (!at.node || isOfType(at->parent, Ondo::ONDO_TABLE_DELIMITER_ROW_NODE)) return {};
+    if (!at.node || isDelimiterRow(at->parent)) return {};
     if (isCell(at.node)) at.nextSibling();
     Node::Iterator opening = at;
     toPreviousPipe(opening);

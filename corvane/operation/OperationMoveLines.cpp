@@ -149,7 +149,7 @@ std::vector<Result> MoveLines::run(const Ondo::Tree& tree, std::int64_t offset, 
     const LineStretch passed = up ? lineAbove(tree, lines) : lineBelow(lines);
     const LineStretch& upper = up ? passed : lines;
     const LineStretch& lower = up ? lines : passed;
-    if (crossesFrontMatter(tree, upper.start, lower.end)) return {};
+    if (crossesFrontMatter(tree, upper.start, lower.end) || makesFrontMatter(tree, upper, lower)) return {};
     if (!isPartOfTable(lines) && swapJoinsTables(tree, upper, lower)) return {};
     return UpwardMove(tree, upper, lower).results(lines, selectionOffset, selectionLength);
 }

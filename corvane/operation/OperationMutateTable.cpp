@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "corvane/block/Table.h"
+#include "corvane/operation/ContainerChain.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/operation/TableRows.h"
 #include "corvane/scan/Assert.h"
@@ -18,10 +19,6 @@ using Ondo::Range;
 
 namespace {
 
-bool isDelimiterRow(const Node* row) {
-    return isOfType(row, Ondo::ONDO_TABLE_DELIMITER_ROW_NODE);
-}
-
 Node::Iterator rowOf(Node::Iterator pipe) {
     pipe.parent();
     return pipe;
@@ -31,8 +28,10 @@ Node::Iterator tableOf(const Node::Iterator& pipe) {
     return rowOf(rowOf(pipe));
 }
 
-/// The pipe that opens the cell of an offset; none outside tables and in a delimiter row.
+/// The pipe that opens the cell of an offset; none outside tables and in a delimiter row. The empty last line
+/// below a table is outside, although the leaf there is the line ending of the last row.
 Node::Iterator pipeAt(const Ondo::Tree& tree, std::int64_t offset) {
+    if (offset == tree.length() && isLineStart(tree, offset)) return {};
     Node::Iterator at = leafAt(tree, offset);
     toRowChild(at);
     if (!at.node || isDelimiterRow(at->parent)) return {};
@@ -77,16 +76,13 @@ std::u16string contentOf(const Ondo::Tree& tree, const Node::Iterator& row) {
     return textIn(tree, rowStart(row), rowEnd(row));
 }
 
-bool looksLikeDelimiters(std::u16string_view row) {
-    return row.find_first_not_of(u"|-: ") == std::u16string_view::npos &&
-           row.find(u'-') != std::u16string_view::npos;
-}
-
 /// Whether a new header would be taken for the delimiter row of the line above the table.
 bool joinsLineAbove(const Ondo::Tree& tree, const Node::Iterator& table, std::u16string_view header,
                     std::int64_t columns) {
-    if (table.offset == 0 || !looksLikeDelimiters(header)) return false;
-    return isRowOf(tree, lineAt(tree, table.offset - 1).offset, columns);
+    if (table.offset == 0 || !readsAsDelimiterRow(header)) return false;
+    const Node::Iterator line = lineAt(tree, table.offset - 1);
+    const bool isInContainer = !ContainerChain(tree, line).furtherPrefix().empty();
+    return !isInContainer && isRowOf(tree, line, columns);
 }
 
 std::int64_t columnsOf(const Node* table) {
@@ -106,14 +102,20 @@ bool joinsTables(const Ondo::Tree& tree, const Node::Iterator& table, std::int64
     if (isTableOf(table->previousSibling, columns)) return true;
     Node::Iterator line = table;
     line.nextSibling();
-    while (line.node && !isTableOf(line.node, columns) && isRowOf(tree, line.offset, columns))
+    while (line.node && !isTableOf(line.node, columns) && isRowOf(tree, line, columns))
         toNextLine(line);
     return isTableOf(line.node, columns);
 }
 
-/// Takes a row's line out. Where a lone carriage return above would meet a line feed below, the line keeps
-/// its own ending and the carriage return goes.
+/// What goes with a row that is not the first: its line. A row that ends the text takes the line ending above
+/// along. Where a lone carriage return above would meet a line feed below, the line keeps its own ending and
+/// the carriage return goes.
 Range lineOf(const Ondo::Tree& tree, const Node::Iterator& row) {
+    if (!isLineEnding(row->lastChild)) {
+        Node::Iterator above = row;
+        above.previousSibling();
+        return {rowEnd(above), row.end() - rowEnd(above)};
+    }
     const bool joinsEndings = unitAt(tree, row.offset - 1) == u'\r' && unitAt(tree, row.end()) == u'\n';
     const std::int64_t start = row.offset - (joinsEndings ? 1 : 0);
     return {start, (joinsEndings ? rowEnd(row) : row.end()) - start};
@@ -213,9 +215,7 @@ MutateTable::Answer MutateTable::addRowAbove(const Iterator& pipe, const Ondo::T
     Iterator delimiter = row;
     delimiter.nextSibling();
     const std::u16string ending = lineEndingOf(tree, delimiter);
-    // The old header ends the text where the delimiter row did.
-    const Range line =
-        ending.empty() ? Range{rowEnd(row), delimiter.end() - rowEnd(row)} : lineOf(tree, delimiter);
+    const Range line = lineOf(tree, delimiter);
     const std::u16string moved = textIn(tree, delimiter.offset, rowEnd(delimiter)) +
                                  (ending.empty() ? lineEndingOf(tree, row) : ending);
     return {Result(line.offset, line.length, u"", row.offset, 0),

@@ -18,8 +18,8 @@ namespace CVN::Operation {
 /// neighbouring row and column; aligning carries the given selection along.
 ///
 /// The header row takes part as any other: a row above it becomes the header, and where it goes the row below
-/// takes its place. Rows change places without their indentation and line endings, so that the end of the
-/// text stays as it was.
+/// takes its place. Rows change places without their indentation and line endings, and the last one goes with
+/// the line ending above it where it has none, so that the end of the text stays as it was.
 ///
 /// An empty list in the delimiter row and outside tables, for the only row and the only column, for a move
 /// beyond the edge, and wherever the table would run into lines around it: into a table that has as many

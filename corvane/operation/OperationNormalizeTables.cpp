@@ -10,6 +10,7 @@
 namespace CVN::Operation {
 
 using Ondo::Node;
+using Ondo::ONDO_TABLE_CELL_NODE;
 using Ondo::Range;
 using Ondo::Tree;
 
@@ -81,22 +82,21 @@ class TableLayout {
 public:
     TableLayout(const Tree& tree, const Node::Iterator& table, const Range& selection,
                 std::vector<Result>& results)
-        : tree_(tree), table_(table), columns_(columnsOf(table.node)), selection_(selection),
+        : tree_(tree), columns_(columnsOf(table.node)), at_{table.end(), 0}, selection_(selection),
           results_(results) {}
 
-    void layOut() {
-        std::int64_t end = table_.end();
-        for (const Node* row = table_->lastChild; row; row = row->previousSibling) {
-            layOutRow(row, end);
-            end -= row->charCount;
-        }
-    }
+    /// Between the rows and the children of each, from the last to the first.
+    void startRow();
+    void stepOver(const Node* child);
+
+    // The child that was stepped over last.
+    void layOutPipe(const Node* pipe);
+    void layOutSpace() { edit(at_.offset, at_.length, {}); }
+    void layOutDelimiter();
+    void layOutCell(const Node* cellNode);
 
 private:
-    void layOutRow(const Node* row, std::int64_t end);
-    void layOutDelimiter(const Node* delimiterNode, const Range& at, const Column& column);
     void layOutEmptyCell(std::int64_t offset, const Column& column);
-    void layOutCell(const Node* cellNode, const Range& at, const Column& column);
     void layOutText(const Range& left, const Range& right, const Column& column);
 
     void edit(std::int64_t offset, std::int64_t length, std::u16string text);
@@ -105,37 +105,33 @@ private:
     Range selected() const;
 
     const Tree& tree_;
-    const Node::Iterator& table_;
     std::vector<Column> columns_;
-    Range selection_; ///< in the text of the tree
+    std::vector<Column>::const_reverse_iterator column_; ///< of the cell before the pipe that was passed last
+    bool isInside_ = false;                              ///< the row's last pipe was passed
+    Range at_;                                           ///< of the child that was stepped over last
+    Range selection_;                                    ///< in the text of the tree
     std::vector<Result>& results_;
 };
 
-void TableLayout::layOutRow(const Node* row, std::int64_t end) {
-    auto column = columns_.rbegin(); // of the cell before the pipe that was passed last
-    bool isInside = false;           // the row's last pipe was passed
-    for (const Node* child = row->lastChild; child; child = child->previousSibling) {
-        const Range at{end - child->charCount, child->charCount};
-        end = at.offset;
-        if (isTablePipe(child)) {
-            if (isInside && isTablePipe(child->nextSibling)) layOutEmptyCell(at.end(), *column);
-            if (isInside) ++column;
-            isInside = true;
-        } else if (isSpace(child)) {
-            edit(at.offset, at.length, {});
-        } else if (isOfType(child, Ondo::ONDO_TABLE_DELIMITER_MARKER_NODE)) {
-            layOutDelimiter(child, at, *column);
-        } else if (!isLineEnding(child)) {
-            layOutCell(child, at, *column);
-        }
-    }
+void TableLayout::startRow() {
+    column_ = columns_.rbegin();
+    isInside_ = false;
+}
+
+void TableLayout::stepOver(const Node* child) {
+    at_ = {at_.offset - child->charCount, child->charCount};
+}
+
+void TableLayout::layOutPipe(const Node* pipe) {
+    if (isInside_ && isTablePipe(pipe->nextSibling)) layOutEmptyCell(at_.end(), *column_);
+    if (isInside_) ++column_;
+    isInside_ = true;
 }
 
 /// The last character stays at the end: it may be a colon.
-void TableLayout::layOutDelimiter(const Node* delimiterNode, const Range& at, const Column& column) {
-    CORVANE_ASSERT(delimiterNode->charCount >= 1, "OperationNormalizeTables");
-    const std::int64_t surplus = std::max<std::int64_t>(delimiterNode->charCount - column.width, 0);
-    edit(at.end() - 1 - surplus, surplus, NormalizeTables::repeatString(column.width - at.length, u'-'));
+void TableLayout::layOutDelimiter() {
+    const std::int64_t surplus = std::max<std::int64_t>(at_.length - column_->width, 0);
+    edit(at_.end() - 1 - surplus, surplus, NormalizeTables::repeatString(column_->width - at_.length, u'-'));
 }
 
 void TableLayout::layOutEmptyCell(std::int64_t offset, const Column& column) {
@@ -143,13 +139,12 @@ void TableLayout::layOutEmptyCell(std::int64_t offset, const Column& column) {
     if (selection_.offset == offset) select({offset + caretIn(column), 0});
 }
 
-void TableLayout::layOutCell(const Node* cellNode, const Range& at, const Column& column) {
-    CORVANE_ASSERT(cellNode->type == Ondo::ONDO_TABLE_CELL_NODE, "OperationNormalizeTables");
+void TableLayout::layOutCell(const Node* cellNode) {
     const std::int64_t left = spaceLength(cellNode->firstChild);
     const std::int64_t right = spaceLength(cellNode->lastChild);
-    if (left < at.length) return layOutText({at.offset, left}, {at.end() - right, right}, column);
-    resizeBlanks(at, column.width);
-    if (contains(at, selection_)) select({at.offset + caretIn(column), 0});
+    if (left < at_.length) return layOutText({at_.offset, left}, {at_.end() - right, right}, *column_);
+    resizeBlanks(at_, column_->width);
+    if (contains(at_, selection_)) select({at_.offset + caretIn(*column_), 0});
 }
 
 /// A selection that begins behind the text begins at its end, and one in the blanks before it is a caret at
@@ -220,12 +215,31 @@ std::vector<Result> NormalizeTables::run(const Tree& tree, std::int64_t offset, 
 void NormalizeTables::normalizeTableNode(const Node::Iterator& table, std::int64_t selectionOffset,
                                          std::int64_t selectionLength, const Tree& tree,
                                          std::vector<Result>& results) {
-    TableLayout(tree, table, {selectionOffset, selectionLength}, results).layOut();
+    TableLayout layout(tree, table, {selectionOffset, selectionLength}, results);
+    for (const Node* row = table->lastChild; row; row = row->previousSibling) {
+        layout.startRow();
+        for (const Node* child = row->lastChild; child; child = child->previousSibling) {
+            layout.stepOver(child);
+            if (isTablePipe(child)) {
+                layout.layOutPipe(child);
+            } else if (isSpace(child)) {
+                layout.layOutSpace();
+            } else if (isOfType(child, Ondo::ONDO_TABLE_DELIMITER_MARKER_NODE)) {
+                const Node* const delimiterNode = child;
+                CORVANE_ASSERT(delimiterNode->charCount >= 1, "OperationNormalizeTables");
+                layout.layOutDelimiter();
+            } else if (!isLineEnding(child)) {
+                const Node* const cellNode = child;
+                CORVANE_ASSERT(cellNode->type == ONDO_TABLE_CELL_NODE, "OperationNormalizeTables");
+                layout.layOutCell(cellNode);
+            }
+        }
+    }
 }
 
 std::int64_t NormalizeTables::cellContentSize(const Node* pipe) {
     const Node* const cell = pipe->nextSibling;
-    if (!isOfType(cell, Ondo::ONDO_TABLE_CELL_NODE)) return 0;
+    if (!isOfType(cell, ONDO_TABLE_CELL_NODE)) return 0;
     const std::int64_t right = cell->lastChild == cell->firstChild ? 0 : spaceLength(cell->lastChild);
     return cell->charCount - spaceLength(cell->firstChild) - right;
 }

@@ -11,6 +11,7 @@ std::vector<Result> RenameUnusedFootnoteDefinitions::run(const Tree& tree, std::
                                                          std::int64_t selectionLength) const {
     const LabeledConnections* const footnotes = footnotesOf(tree);
     if (!footnotes) return {};
+    UnusedMarks markFor(*footnotes);
     std::vector<Result> results;
     const std::vector<LabelEntry> definitions = footnotes->definitions();
     for (auto entry = definitions.rbegin(); entry != definitions.rend(); ++entry) {
@@ -20,8 +21,8 @@ std::vector<Result> RenameUnusedFootnoteDefinitions::run(const Tree& tree, std::
         const Node* const markerNode = firstMarker ? firstMarker->nextMarker() : nullptr;
         CORVANE_ASSERT(markerNode && markerNode->type == ONDO_FOOTNOTE_DEFINITION_LABEL_CLOSE_MARKER_NODE,
                        "OperationRenameUnusedFootnoteDefinitions");
-        Result::addToList(results, offsetIn(*entry, markerNode), 0, unusedMark(*footnotes, node),
-                          selectionOffset, selectionLength);
+        Result::addToList(results, offsetIn(*entry, markerNode), 0, markFor(node->label), selectionOffset,
+                          selectionLength);
     }
     return results;
 }

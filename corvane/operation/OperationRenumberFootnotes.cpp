@@ -85,6 +85,7 @@ std::vector<Result> RenumberFootnotes::run(const Tree& tree, std::int64_t, std::
     for (const auto& [label, number] : numbers)
         taken.insert(number);
 
+    UnusedMarks markFor(*footnotes);
     Changes changes(tree);
     for (const LabelEntry& entry : references) {
         const auto number = numbers.find(entry.node->label);
@@ -110,7 +111,7 @@ std::vector<Result> RenumberFootnotes::run(const Tree& tree, std::int64_t, std::
                            labelNode->type == ONDO_FOOTNOTE_DEFINITION_LABEL_ATTRIBUTE_NODE,
                        "OperationRenumberFootnotes");
         if (isPushedOut)
-            changes.addMark(entry, markerNode->nextMarker(), unusedMark(*footnotes, entry.node));
+            changes.addMark(entry, markerNode->nextMarker(), markFor(entry.node->label));
         else
             changes.addLabel(entry, markerNode, labelNode, number->second);
     }

@@ -1,6 +1,7 @@
 #include "corvane/operation/OperationRenumberOrderedList.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,6 +24,16 @@ constexpr std::int64_t codeIndentation = 4;
 
 bool isBlankUnit(char16_t c) {
     return c == u' ' || c == u'\t';
+}
+
+/// 0 stands for the end of the text.
+bool isLineEndingUnit(char16_t c) {
+    return c == 0 || c == u'\n' || c == u'\r';
+}
+
+/// No block starts with such a unit.
+bool isLetter(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c >= 0x80;
 }
 
 std::int64_t columnBehind(std::int64_t column, char16_t c) {
@@ -65,7 +76,7 @@ public:
         countQuotesAround(at.node);
         for (; at.node && at.offset < end; at.nextInSequence()) {
             leaveFrames(at.offset);
-            if (isContainer(at.node)) frames_.push_back({at.node, at.end()});
+            if (isContainer(at.node)) frames_.push_back({at.node, at.end(), {}});
             if (!at->firstChild) visitLeaf(at);
         }
     }
@@ -73,12 +84,14 @@ public:
     const std::vector<Change>& changes() const { return changes_; }
 
 private:
-    /// A container, and by how many columns the text of an item moves against what is around it.
+    /// A container; for an item whose marker has come, also where its text stands, in columns from the last
+    /// quote's marker, and by how many columns it moves against what is around it.
     struct Frame {
         const Node* container;
         std::int64_t end;
+        std::optional<std::int64_t> textColumn;
+        std::int64_t newTextColumn = 0;
         std::int64_t shift = 0;
-        std::int64_t newTextColumn = 0; ///< of an item that moves
     };
 
     void leaveFrames(std::int64_t offset) {
@@ -88,7 +101,7 @@ private:
 
     void startLine(std::int64_t offset) {
         read_ = offset;
-        column_ = newColumn_ = quotes_ = 0;
+        column_ = newColumn_ = base_ = newBase_ = quotes_ = 0;
         opensLine_ = true;
     }
 
@@ -102,8 +115,15 @@ private:
         const bool isQuoteMarker = isOfType(leaf.node, Ondo::ONDO_BLOCK_QUOTE_MARKER_NODE);
         if (opensLine_ && isOfType(leaf.node, Ondo::ONDO_SPACE_NODE)) visitOpeningSpace(leaf);
         if (isOfType(leaf.node, Ondo::ONDO_LIST_ITEM_MARKER_NODE)) visitMarker(leaf);
-        if (isQuoteMarker) ++quotes_;
+        if (isQuoteMarker) visitQuoteMarker(leaf);
         opensLine_ = isQuoteMarker;
+    }
+
+    void visitQuoteMarker(const Node::Iterator& marker) {
+        readTo(marker.end());
+        base_ = column_;
+        newBase_ = newColumn_;
+        ++quotes_;
     }
 
     /// Reads the line up to an offset for its columns.
@@ -129,12 +149,44 @@ private:
         return shift;
     }
 
+    /// Lazy text that is indented too far to start a block must not come to start one: it moves with the
+    /// items that it is indented for. Where the text of the next item comes so near that the line would be
+    /// one of its own, it is indented too far for that one instead, unless it is mere text. Null for other
+    /// lines.
+    std::optional<std::int64_t> shiftOfLazyText(const Node::Iterator& space,
+                                                std::u16string_view blanks) const {
+        if (isSimplified_ || isLineEndingUnit(unitAt(tree_, space.end()))) return std::nullopt;
+        const std::int64_t column = columnBehind(column_, blanks) - base_;
+        const std::int64_t newColumn = columnBehind(newColumn_, blanks) - newBase_;
+        std::int64_t outer = 0;
+        std::int64_t shift = 0;
+        std::optional<std::int64_t> limit;
+        std::int64_t innermost = 0;
+        std::int64_t quotes = quotesAround_;
+        for (const Frame& frame : frames_) {
+            quotes += isBlockQuote(frame.container) ? 1 : 0;
+            if (quotes != quotes_ || !frame.textColumn) continue;
+            innermost = frame.newTextColumn;
+            if (limit) continue;
+            if (column < *frame.textColumn) {
+                limit = frame.newTextColumn;
+            } else {
+                outer = *frame.textColumn;
+                shift += frame.shift;
+            }
+        }
+        if (!limit || column - outer < codeIndentation) return std::nullopt;
+        const bool staysText = newColumn + shift < *limit || isLetter(unitAt(tree_, space.end()));
+        return staysText ? shift : innermost + codeIndentation - newColumn;
+    }
+
     void visitOpeningSpace(const Node::Iterator& space) {
         readTo(space.offset);
         const std::u16string blanks(textOf(tree_, space));
-        const std::int64_t shift = shiftOf(blanks) - intrusion(space, columnBehind(newColumn_, blanks));
-        const std::int64_t newEnd =
-            columnBehind(newColumn_, blanks) + (shift < 0 ? shortened(space, blanks, -shift) : shift);
+        const std::int64_t end = columnBehind(newColumn_, blanks);
+        const auto lazyShift = shiftOfLazyText(space, blanks);
+        const std::int64_t shift = lazyShift ? *lazyShift : shiftOf(blanks) - intrusion(space, end);
+        const std::int64_t newEnd = end + (shift < 0 ? shortened(space, blanks, -shift) : shift);
         if (shift > 0) change(space.offset + endOfTabs(blanks), 0, spaces(shift));
         column_ = columnBehind(column_, blanks);
         newColumn_ = newEnd;
@@ -146,7 +198,7 @@ private:
         space.nextInSequence();
         const bool isItem = isOfType(space.node, Ondo::ONDO_LIST_ITEM_MARKER_NODE);
         if (!isItem || left_.shift >= 0 || space->maker->previousSibling != left_.container) return 0;
-        return std::max<std::int64_t>(0, newEnd + shiftOf({}) - left_.newTextColumn + 1);
+        return std::max<std::int64_t>(0, newEnd - newBase_ + shiftOf({}) - left_.newTextColumn + 1);
     }
 
     /// Takes columns off blanks, as far as they go; answers by how many the end moves. A tab gives way to as
@@ -169,26 +221,33 @@ private:
     void visitMarker(const Node::Iterator& marker) {
         const auto* const item = static_cast<const ListItemNode*>(marker->maker);
         readTo(marker.offset);
-        if (!item->isOrdered() || item->writtenNumber == item->number) return;
-        std::u16string number = Ondo::Util::toString(item->number);
-        const std::int64_t newDigits = sizeOf(number);
-        if (newDigits > longestNumber) return;
-        const std::int64_t digits = digitCount(marker);
-        const std::int64_t width = contentWidth(marker, newColumn_, newDigits, digits);
-        setShift(item, width - contentWidth(marker, column_, digits, digits), newColumn_ + width);
-        change(marker.offset, digits, std::move(number));
+        const std::int64_t digits = item->isOrdered() ? digitCount(marker) : 0;
+        const std::u16string number = newNumber(item);
+        const std::int64_t newDigits = number.empty() ? digits : sizeOf(number);
+        setTextColumns(item, contentWidth(marker, column_, digits, digits),
+                       contentWidth(marker, newColumn_, newDigits, digits));
+        if (number.empty()) return;
+        change(marker.offset, digits, number);
         read_ += digits;
         column_ += digits;
         newColumn_ += newDigits;
     }
 
+    /// Empty for an item that keeps what it has.
+    static std::u16string newNumber(const ListItemNode* item) {
+        if (!item->isOrdered() || item->writtenNumber == item->number) return {};
+        std::u16string number = Ondo::Util::toString(item->number);
+        return sizeOf(number) > longestNumber ? std::u16string() : number;
+    }
+
     /// The marker stands in the innermost block of its line, so the item need not be the last frame.
-    void setShift(const Node* item, std::int64_t shift, std::int64_t newTextColumn) {
+    void setTextColumns(const Node* item, std::int64_t width, std::int64_t newWidth) {
         const auto isItems = [item](const Frame& frame) { return frame.container == item; };
         const auto frame = std::find_if(frames_.rbegin(), frames_.rend(), isItems);
         if (frame == frames_.rend()) return;
-        frame->shift = shift;
-        frame->newTextColumn = newTextColumn;
+        frame->textColumn = column_ - base_ + width;
+        frame->newTextColumn = newColumn_ - newBase_ + newWidth;
+        frame->shift = newWidth - width;
     }
 
     std::int64_t digitCount(const Node::Iterator& marker) const {
@@ -206,7 +265,7 @@ private:
         for (; isBlankUnit(unitAt(tree_, at)); ++at)
             text = columnBehind(text, unitAt(tree_, at));
         const char16_t next = unitAt(tree_, at);
-        const bool isEmpty = next == 0 || next == u'\n' || next == u'\r';
+        const bool isEmpty = isLineEndingUnit(next);
         const bool isCode = text - (markerEnd + 1) >= codeIndentation;
         return (isEmpty || isCode ? markerEnd + 1 : text) - column;
     }
@@ -218,7 +277,7 @@ private:
     const Ondo::Tree& tree_;
     bool isSimplified_;
     std::vector<Frame> frames_;     ///< the containers around, from the first line walked on
-    Frame left_ = {nullptr, 0};     ///< the container that ended last
+    Frame left_ = {nullptr, 0, {}}; ///< the container that ended last
     std::int64_t quotesAround_ = 0; ///< those beyond them
     std::vector<Change> changes_;
 
@@ -226,6 +285,8 @@ private:
     std::int64_t read_ = 0;      ///< how far it is read for the columns
     std::int64_t column_ = 0;    ///< there, as the note stands
     std::int64_t newColumn_ = 0; ///< and as it will
+    std::int64_t base_ = 0;      ///< behind the last quote's marker, as the note stands
+    std::int64_t newBase_ = 0;   ///< and as it will
     std::int64_t quotes_ = 0;    ///< whose marker has come
     bool opensLine_ = true;      ///< nothing but quotes' markers has
 };

@@ -4,6 +4,7 @@
 
 #include "corvane/inline/Hashtag.h"
 #include "corvane/inline/Segments.h"
+#include "corvane/operation/TrialParse.h"
 #include "corvane/scan/Util.h"
 
 namespace CVN::Operation {
@@ -14,16 +15,64 @@ using Ondo::Tree;
 
 namespace {
 
-/// How much text before a tag is looked through for constructs that its name could close.
-constexpr std::int64_t guardedLength = 1000;
+/// Up to which length a block is parsed on trial, in code units.
+constexpr std::int64_t longestTrial = 4000;
+
+/// A tag that is to replace a stretch of text, with what surrounds it there. An empty stretch is a place
+/// between lines, or at the end of one.
+struct Replacement {
+    Ondo::Range stretch;
+    std::u16string_view above; ///< what goes in before the tag
+    const Node* neighbor;      ///< of the block that the tag is to be in; null where it is a line of its own
+    TagPlace place;
+};
+
+/// The first-level block at an offset; none if it is too long for a trial.
+Node::Iterator blockOnTrial(const Tree& tree, std::int64_t offset) {
+    Node::Iterator at = leafAt(tree, std::min(offset, tree.length() - 1));
+    const Node* const block = at->firstLevelAncestor();
+    if (block->charCount > longestTrial) return {};
+    while (at.node != block)
+        at.parent();
+    return at;
+}
+
+/// Whether the tag is that tag in its block, where more than its line decides.
+bool comesOut(const Tree& tree, const Node::Iterator& block, const Replacement& replacement,
+              std::u16string_view tag, std::u16string_view encoded) {
+    const Ondo::Range& stretch = replacement.stretch;
+    std::u16string text(tree.markdownIn({block.offset, stretch.offset - block.offset}));
+    const auto start = static_cast<std::int64_t>((text += replacement.above).size());
+    text += tag;
+    if (stretch.length == 0) text += u'\n';
+    text += tree.markdownIn({stretch.end(), block.end() - stretch.end()});
+    const Tree trial = trialParse(tree, text);
+    const Node* const node = leafAt(trial, start)->parent;
+    if (!isOfType(node, Ondo::ONDO_HASHTAG_NODE)) return false;
+    const Node* const neighbor = replacement.neighbor;
+    return (!neighbor || node->parentBlock()->type == neighbor->parentBlock()->type) &&
+           node->charCount == static_cast<std::int64_t>(tag.size()) &&
+           static_cast<const Ondo::Inline::HashtagNode*>(node)->encodedSegments() == encoded;
+}
+
+/// The plainest text that is the tag in its place; empty when there is none.
+std::u16string markdownIn(const Tree& tree, const Replacement& replacement, std::u16string_view encoded) {
+    const std::u16string path = Ondo::Segments::encode(Ondo::Segments::decode(encoded));
+    const bool isInDoubt =
+        isClosing(path) && tree.length() > 0 && tree.ruleConfig().ruleInstanceByName("Hashtag");
+    const Node::Iterator block =
+        isInDoubt ? blockOnTrial(tree, replacement.stretch.offset) : Node::Iterator();
+    for (std::u16string& text : tagSpellings(path, isInDoubt && !block.node)) {
+        TagBase::forceDoubleMarkerIfNeededDueToTrailingText(text, path, replacement.place);
+        if (!isSpelling(text, path, replacement.place)) continue;
+        if (!block.node || comesOut(tree, block, replacement, text, path)) return text;
+    }
+    return {};
+}
 
 std::u16string_view textBefore(const Tree& tree, std::int64_t offset, std::int64_t length) {
     const std::int64_t start = std::max<std::int64_t>(offset - length, 0);
     return tree.markdownIn({start, offset - start});
-}
-
-bool isGuarded(const Tree& tree, std::int64_t offset, std::u16string_view encoded) {
-    return hasClosingCharacter(encoded) && hasOpeningCharacter(textBefore(tree, offset, guardedLength));
 }
 
 std::u16string unitsBefore(const Tree& tree, const Node::Iterator& tag) {
@@ -48,10 +97,6 @@ std::u16string contentBehind(const Tree& tree, const Node::Iterator& tag) {
     return std::u16string(tree.markdownIn({tag.end(), std::min(length, longestTag)}));
 }
 
-TagPlace placeOf(const Tree& tree, const Node::Iterator& tag, std::u16string_view encoded) {
-    return {unitsBefore(tree, tag), contentBehind(tree, tag), isGuarded(tree, tag.offset, encoded)};
-}
-
 /// What a typed name can't hold: tabs, line endings and other controls, the marker, a byte order mark.
 bool isUntypable(char16_t c) {
     return c == u'#' || c < 0x20 || c == 0xFEFF || (c >= 0x80 && c <= 0x9F);
@@ -65,21 +110,25 @@ bool TagBase::isMatch(const Node* node, std::u16string_view tag) {
 }
 
 std::u16string TagBase::encodedSegmentsToMarkdown(std::u16string_view encoded) {
-    return tagSpelling(encoded, {});
+    const std::u16string path = Ondo::Segments::encode(Ondo::Segments::decode(encoded));
+    for (std::u16string& text : tagSpellings(path, false)) {
+        forceDoubleMarkerIfNeededDueToTrailingText(text, path, {});
+        if (isSpelling(text, path, {})) return text;
+    }
+    return {};
 }
 
 std::u16string TagBase::encodedSegmentsToMarkdown(const Tree& tree, const Node::Iterator& node,
                                                   std::u16string_view encoded) {
-    const TagPlace place = placeOf(tree, node, encoded);
-    std::u16string text = tagSpelling(encoded, {{}, {}, place.isGuarded});
-    if (text.empty()) return text;
-    forceDoubleMarkerIfNeededDueToTrailingText(text, encoded, place);
-    return isSpelling(text, encoded, place) ? text : tagSpelling(encoded, place);
+    const TagPlace place{unitsBefore(tree, node), contentBehind(tree, node)};
+    return markdownIn(tree, {{node.offset, node->charCount}, {}, node.node, place}, encoded);
 }
 
 std::u16string TagBase::encodedSegmentsToMarkdown(const Tree& tree, std::int64_t offset,
-                                                  std::u16string_view encoded) {
-    return tagSpelling(encoded, {{}, {}, isGuarded(tree, offset, encoded)});
+                                                  std::u16string_view above, std::u16string_view encoded) {
+    const Node* const neighbor = above == u" " ? leafAt(tree, offset - 1).node : nullptr;
+    const std::u16string text = markdownIn(tree, {{offset, 0}, above, neighbor, {}}, encoded);
+    return text.empty() ? text : std::u16string(above) + text;
 }
 
 void TagBase::forceDoubleMarkerIfNeededDueToTrailingText(std::u16string& markdown,

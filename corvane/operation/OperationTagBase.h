@@ -10,6 +10,11 @@
 
 namespace CVN::Operation {
 
+/// Whether the leaf belongs to a tag.
+inline bool isInTag(const Ondo::Node* leaf) {
+    return selfOrAncestor(leaf, Ondo::ONDO_HASHTAG_NODE);
+}
+
 /// What the commands on tags share: which tags a name means, and how a name is written.
 ///
 /// A tag is named by its encoded path, see Ondo::Segments. A name means the tag of that path and all tags
@@ -26,10 +31,11 @@ public:
     static std::u16string encodedSegmentsToMarkdown(const Ondo::Tree& tree, const Ondo::Node::Iterator& node,
                                                     std::u16string_view encoded);
 
-    /// The same for a name that goes in at an offset, behind a blank or at the start of a line, with nothing
-    /// but blanks behind it.
+    /// What to insert for a name that goes in at an offset: the text `above` the tag, and the tag. That text
+    /// is a blank behind a tag that ends a line, or what makes the tag begin a line. Empty when no text is
+    /// the tag there.
     static std::u16string encodedSegmentsToMarkdown(const Ondo::Tree& tree, std::int64_t offset,
-                                                    std::u16string_view encoded);
+                                                    std::u16string_view above, std::u16string_view encoded);
 
     /// Appends the closing "#" to the text of a tag where text glued to its end, or to its start, would make
     /// it another tag without.

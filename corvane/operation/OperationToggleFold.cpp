@@ -121,8 +121,8 @@ std::vector<Result> ToggleFold::foldAll(const Tree& tree, const Ondo::Range& sel
         if (!each->isFolded) insert(each->comment, comment());
     if (results.empty()) return results;
     const Ondo::Range behind = selectionBehindFolds(sections, selection, tree);
-    results.back().selectionOffset = behind.offset;
-    results.back().selectionLength = behind.length;
+    Result& last = results.back();
+    last = Result(last.replaceOffset, 0, comment(), behind.offset, behind.length);
     return results;
 }
 

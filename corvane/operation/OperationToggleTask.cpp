@@ -65,6 +65,7 @@ Node::Iterator ToggleTask::closestNodeForOffset(const Ondo::Tree& tree, std::int
 std::vector<Node::Iterator> ToggleTask::taskMarkers(const Ondo::Tree& tree, std::int64_t offset,
                                                     std::int64_t length) {
     if (length == 0) {
+        if (offset == tree.length() && isLineStart(tree, offset)) return {};
         const Node::Iterator closest = closestNodeForOffset(tree, offset);
         return isTaskMarker(closest.node) ? std::vector{closest} : std::vector<Node::Iterator>();
     }
@@ -78,6 +79,7 @@ std::vector<Node::Iterator> ToggleTask::taskMarkers(const Ondo::Tree& tree, std:
         if (isTaskMarker(leaf.node)) inside.push_back(leaf);
         if (leaf->parent == parent) continue;
         parent = leaf->parent;
+        if (isBlank(parent) || isBlank(leaf.node)) continue;
         const Node* const item = selfOrAncestor(parent, Ondo::ONDO_LIST_ITEM_NODE);
         for (std::size_t i = 0; i < around.size(); ++i)
             if (around[i]->maker == item && around[i].offset < first.offset) isTouched[i] = true;

@@ -9,7 +9,8 @@
 namespace CVN::Operation {
 
 /// Checks and unchecks tasks: those that the range touches with a marker or with text of their own, not just
-/// with what is nested in them. A caret means the task around it, if the innermost item there is one.
+/// with what is nested in them or with blank lines. A caret means the task around it, if the innermost item
+/// there is one; the empty last line, behind a line ending, belongs to none.
 ///
 /// Toggle turns each task over by itself. Answers a result for each of these tasks, from the last to the
 /// first, also for one that has its state already; each writes the box anew, "[X]" as "[x]". An empty list

@@ -21,9 +21,15 @@ bool isDestination(const Node* node) {
            isOfType(node, Ondo::ONDO_IMAGE_DESTINATION_ATTRIBUTE_NODE);
 }
 
-/// Angle brackets can't help these. A telephone number is written without escapes.
+/// Angle brackets can't help these, nor keep a pipe from dividing a cell. A telephone number is written
+/// without escapes.
 bool isUnwritable(std::u16string_view safeUrl) {
-    return safeUrl.empty() || safeUrl.find_first_of(u"\r<>\\") != std::u16string_view::npos;
+    return safeUrl.empty() || safeUrl.find_first_of(u"\r<>\\|") != std::u16string_view::npos;
+}
+
+/// What ends a destination that has no brackets, or may.
+bool needsBrackets(char16_t c) {
+    return c <= u' ' || c == u'\x7F' || c == u'(' || c == u')';
 }
 
 bool isOpenBracket(const Node* node) {
@@ -33,8 +39,8 @@ bool isOpenBracket(const Node* node) {
 
 /// `attribute` is the destination in place of which the URL goes.
 std::u16string destinationText(const Node* attribute, const std::u16string& safeUrl) {
-    const bool needsBrackets = safeUrl.find_first_of(u" \t()") != std::u16string::npos;
-    if (!needsBrackets || isOpenBracket(attribute->previousSibling)) return safeUrl;
+    const bool isBare = std::none_of(safeUrl.begin(), safeUrl.end(), needsBrackets);
+    if (isBare || isOpenBracket(attribute->previousSibling)) return safeUrl;
     return u"<" + safeUrl + u">";
 }
 

@@ -6,7 +6,9 @@
 
 #include "corvane/inline/Segments.h"
 #include "corvane/inline/Wikilink.h"
+#include "corvane/operation/InlineRuns.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 #include "corvane/scan/Util.h"
 
 namespace CVN::Operation {
@@ -18,17 +20,32 @@ using Ondo::Inline::WikilinkNode;
 
 namespace {
 
+/// Before the text of a block that is tried out: front matter begins on the first line only.
+constexpr std::u16string_view trialStart = u"\n";
+
+/// From the one that reads best to the safest. A cell is one in which an escaped pipe separates the alias.
 /// Guarded text is for places where something opened before the link looks for its end, which a name must not
-/// hold: a code span, a formula, an HTML tag, a comment, the parentheses of a link.
-enum class Spelling { Plain, Guarded };
+/// hold: a code span, a formula, an HTML tag, a comment, the parentheses of a link; or where a bare address
+/// follows.
+enum class Spelling { Plain, Cell, Guarded };
 
 struct Guard {
     char16_t character;
     std::u16string_view entity;
+    Spelling since = Spelling::Guarded;
 };
-constexpr Guard guards[] = {{u'`', u"&grave;"}, {u'$', u"&dollar;"}, {u'<', u"&lt;"},   {u'>', u"&gt;"},
-                            {u'(', u"&lpar;"},  {u')', u"&rpar;"},   {u'"', u"&quot;"}, {u'\'', u"&apos;"},
-                            {u'|', u"&vert;"},  {u'&', u"&amp;"}};
+constexpr Guard guards[] = {{u'|', u"&vert;", Spelling::Cell},
+                            {u'`', u"&grave;"},
+                            {u'$', u"&dollar;"},
+                            {u'<', u"&lt;"},
+                            {u'>', u"&gt;"},
+                            {u'(', u"&lpar;"},
+                            {u')', u"&rpar;"},
+                            {u'"', u"&quot;"},
+                            {u'\'', u"&apos;"},
+                            {u'&', u"&amp;"},
+                            {u':', u"&colon;"},
+                            {u'@', u"&commat;"}};
 
 bool beginsEntity(std::u16string_view text) {
     if (text.size() < 2 || text[0] != u'&') return false;
@@ -38,13 +55,13 @@ bool beginsEntity(std::u16string_view text) {
 
 void addSpelt(std::u16string& out, std::u16string_view rest, Spelling spelling) {
     const char16_t c = rest.front();
-    if (spelling == Spelling::Guarded) {
-        const auto* const guard = std::find_if(std::begin(guards), std::end(guards),
-                                               [c](const Guard& each) { return each.character == c; });
-        if (guard != std::end(guards)) {
-            out += guard->entity;
-            return;
-        }
+    const auto* const guard =
+        std::find_if(std::begin(guards), std::end(guards), [c, spelling](const Guard& each) {
+            return each.character == c && each.since <= spelling;
+        });
+    if (guard != std::end(guards)) {
+        out += guard->entity;
+        return;
     }
     if (c == u'[' || c == u']' || c == u'|' || beginsEntity(rest)) out += u'\\';
     out += c;
@@ -57,140 +74,144 @@ std::u16string spelt(std::u16string_view encoded, Spelling spelling) {
     return text;
 }
 
-std::u16string wikilink(std::u16string_view target, std::u16string_view separator,
-                        std::u16string_view alias) {
-    std::u16string text = u"[[";
-    text += target;
-    if (!alias.empty()) text.append(separator).append(alias);
-    return text + u"]]";
+/// Without blanks at the ends of the segments.
+std::vector<std::u16string> trimmedSegments(std::u16string_view encoded) {
+    std::vector<std::u16string> segments = Segments::decode(encoded);
+    for (std::u16string& segment : segments)
+        segment = Segments::normalizeSegment(segment);
+    return segments;
 }
 
-/// A segment whose blanks at the ends would be trimmed, or that would end the line, is no segment when read
-/// again; an empty one is, only before a header.
-bool isSpellable(const std::vector<std::u16string>& segments) {
-    const auto isKept = [](const std::u16string& segment) {
-        return Segments::normalizeSegment(segment) == segment &&
-               segment.find_first_of(u"\r\n") == std::u16string::npos;
-    };
-    return !segments.empty() && segments.size() <= 2 && !segments.back().empty() &&
-           std::all_of(segments.begin(), segments.end(), isKept);
+/// A target as a wikilink to it is read: all behind the first slash is one header, an empty one is none.
+std::u16string canonical(std::u16string_view encoded) {
+    std::vector<std::u16string> segments = trimmedSegments(encoded);
+    for (std::size_t i = 2; i < segments.size(); ++i)
+        segments[1].append(u"/").append(segments[i]);
+    if (segments.size() > 2) segments.resize(2);
+    if (segments.size() == 2 && segments.back().empty()) segments.pop_back();
+    return Segments::encode(segments);
 }
 
 struct Link {
     std::int64_t offset;
     std::int64_t length;
-    std::u16string target; ///< encoded, the new one
+    std::u16string target; ///< the new one, canonical
+    std::u16string rest;   ///< of the link, behind the segments that change, as it is written
+    std::u16string text{}; ///< the new one
+    std::int64_t trialOffset = 0;
+};
+
+/// The header, the alias and the closing marker, with what separates them: in a cell that may have had to be
+/// written escaped. Separators of nothing are left out.
+std::u16string restOf(const Tree& tree, const Node::Iterator& link, bool keepsHeader) {
+    std::u16string rest;
     std::u16string separator;
-    std::u16string alias; ///< as it is written
-
-    std::u16string text(Spelling spelling) const {
-        return wikilink(spelt(target, spelling), separator, alias);
+    Node::Iterator at = link;
+    for (at.nextInSequence(); at.node && at.offset < link.end(); at.nextInSequence()) {
+        if (at->type == Ondo::ONDO_WIKILINK_SEPARATOR_MARKER_NODE ||
+            at->type == Ondo::ONDO_WIKILINK_ALIAS_SEPARATOR_MARKER_NODE)
+            separator = textOf(tree, at);
+        const bool isKept = (keepsHeader && at->type == Ondo::ONDO_WIKILINK_SEGMENT_ATTRIBUTE_NODE) ||
+                            at->type == Ondo::ONDO_WIKILINK_ALIAS_ATTRIBUTE_NODE;
+        if (isKept && !separator.empty()) rest.append(separator).append(textOf(tree, at));
     }
-};
-
-/// In a cell the separator may have had to be written escaped.
-Link linkAt(const Tree& tree, const Node::Iterator& at, std::u16string target) {
-    Link link{at.offset, at->charCount, std::move(target), u"|", {}};
-    Node::Iterator child = at;
-    for (child.firstChild(); child.node; child.nextSibling()) {
-        if (child->type == Ondo::ONDO_WIKILINK_ALIAS_SEPARATOR_MARKER_NODE)
-            link.separator = textOf(tree, child);
-        if (child->type == Ondo::ONDO_WIKILINK_ALIAS_ATTRIBUTE_NODE) link.alias = textOf(tree, child);
-    }
-    return link;
+    return rest + u"]]";
 }
-
-struct Edit {
-    std::int64_t offset;
-    std::int64_t length;
-    std::u16string text;
-};
 
 /// The links of a note that are to change, block by block, with texts that were tried out.
 class Renaming {
 public:
+    /// `from` is canonical.
     Renaming(const Tree& tree, std::u16string from, std::u16string to)
-        : tree_(tree), from_(std::move(from)), to_(std::move(to)), trial_({}, tree.ruleSet) {
-        for (const std::string_view rule : {"MathBlock", "MathSpan"})
-            if (!tree.ruleConfig().ruleInstanceByName(rule)) trial_.removeRuleByName(rule);
-    }
+        : tree_(tree), from_(std::move(from)), to_(std::move(to)), trial_(emptyTrial(tree)),
+          oldTrial_(emptyTrial(tree)) {}
 
-    /// Adds the edits of a first-level block, of links that stand at `start` or behind it.
-    void addBlock(const Node::Iterator& block, std::int64_t start, std::vector<Edit>& edits);
+    /// Adds those of a first-level block that stand at `start` or behind it.
+    void addBlock(const Node::Iterator& block, std::int64_t start, std::vector<Link>& changes);
 
 private:
     std::vector<Link> linksIn(const Node::Iterator& block, std::int64_t start) const;
-    std::u16string respelt(const Node::Iterator& block, const std::vector<Link>& links,
-                           Spelling spelling) const;
-    bool isMeant(const Node::Iterator& block, const std::vector<Link>& links, std::u16string text);
+    void spell(const Node::Iterator& block, std::vector<Link>& links, Spelling spelling);
+    bool isMeant(const std::vector<Link>& links) const;
 
     const Tree& tree_;
     std::u16string from_;
     std::u16string to_;
-    Tree trial_;
+    Tree trial_;    ///< of a block with its links spelt anew
+    Tree oldTrial_; ///< of the block as it is: without the rest of the note it may be parsed differently
 };
 
-void Renaming::addBlock(const Node::Iterator& block, std::int64_t start, std::vector<Edit>& edits) {
-    const std::vector<Link> links = linksIn(block, start);
+/// When no spelling leaves the surroundings as they were, it is still better than a link to nothing.
+void Renaming::addBlock(const Node::Iterator& block, std::int64_t start, std::vector<Link>& changes) {
+    std::vector<Link> links = linksIn(block, start);
     if (links.empty()) return;
-    for (const Spelling spelling : {Spelling::Plain, Spelling::Guarded}) {
-        if (!isMeant(block, links, respelt(block, links, spelling))) continue;
-        for (const Link& link : links)
-            edits.push_back({link.offset, link.length, link.text(spelling)});
-        return;
+    oldTrial_.replaceAll(std::u16string(trialStart).append(textOf(tree_, block)));
+    for (const Spelling spelling : {Spelling::Plain, Spelling::Cell, Spelling::Guarded}) {
+        spell(block, links, spelling);
+        if (isMeant(links)) break;
+    }
+    auto link = links.begin();
+    for (Node::Iterator at = trial_.root->begin(); at.node; at.nextInSequence()) {
+        if (at->type != Ondo::ONDO_WIKILINK_NODE) continue;
+        while (link != links.end() && link->trialOffset < at.offset)
+            ++link;
+        if (link == links.end()) return;
+        const bool isWhole = at.offset == link->trialOffset && at->charCount == sizeOf(link->text);
+        if (isWhole) changes.push_back(std::move(*link));
     }
 }
 
 std::vector<Link> Renaming::linksIn(const Node::Iterator& block, std::int64_t start) const {
+    const std::int64_t fromCount = Segments::segmentCount(from_);
     std::vector<Link> links;
     for (Node::Iterator at = block; at.node && at.offset < block.end(); at.nextInSequence()) {
         if (at->type != Ondo::ONDO_WIKILINK_NODE || at.offset < start) continue;
         const std::u16string old = static_cast<const WikilinkNode*>(at.node)->encodedSegments();
         if (!Segments::isPrefix(from_, old)) continue;
-        std::u16string target = Segments::replacePrefix(old, from_, to_);
-        if (target != old && isSpellable(Segments::decode(target)))
-            links.push_back(linkAt(tree_, at, std::move(target)));
+        std::u16string target = canonical(Segments::replacePrefix(old, from_, to_));
+        if (target != canonical(old))
+            links.push_back({at.offset, at->charCount, std::move(target), restOf(tree_, at, fromCount == 1)});
     }
     return links;
 }
 
-std::u16string Renaming::respelt(const Node::Iterator& block, const std::vector<Link>& links,
-                                 Spelling spelling) const {
-    std::u16string text;
+void Renaming::spell(const Node::Iterator& block, std::vector<Link>& links, Spelling spelling) {
+    const std::u16string target = spelt(to_, spelling);
+    std::u16string text(trialStart);
     std::int64_t end = block.offset;
-    for (const Link& link : links) {
+    for (Link& link : links) {
         text += tree_.markdownIn({end, link.offset - end});
-        text += link.text(spelling);
+        link.trialOffset = sizeOf(text);
+        link.text = u"[[" + target + link.rest;
+        text += link.text;
         end = link.offset + link.length;
     }
     text += tree_.markdownIn({end, block.end() - end});
-    return text;
+    trial_.replaceAll(text);
 }
 
-/// Whether the block parses as before from its new text, but for the targets of those links.
-bool Renaming::isMeant(const Node::Iterator& block, const std::vector<Link>& links, std::u16string text) {
-    // Front matter begins on the first line only.
-    trial_.replaceAll(u"\n" + std::move(text));
-    const Node* tried = trial_.root->firstChild->nextSibling;
+/// Whether the block parses as before, but for the targets of those links.
+bool Renaming::isMeant(const std::vector<Link>& links) const {
+    const Node* before = oldTrial_.root->firstChild;
+    Node::Iterator at = trial_.root->begin();
     auto link = links.begin();
-    for (Node::Iterator at = block; at.node && at.offset < block.end();) {
-        if (!tried || tried->type != at->type) return false;
+    for (at.firstChild(); before && at.node;) {
+        if (before->type != at->type) return false;
         if (at->type != Ondo::ONDO_WIKILINK_NODE) {
-            if (at->isLeafKind() && tried->charCount != at->charCount) return false;
-            ++at;
-            tried = tried->nextInSequence();
+            if (at->isLeafKind() && before->charCount != at->charCount) return false;
+            before = before->nextInSequence();
+            at.nextInSequence();
             continue;
         }
-        const auto& before = *static_cast<const WikilinkNode*>(at.node);
-        const auto& behind = *static_cast<const WikilinkNode*>(tried);
-        const bool isRenamed = link != links.end() && link->offset == at.offset;
-        const std::u16string target = isRenamed ? link->target : before.encodedSegments();
-        if (behind.encodedSegments() != target || behind.alias != before.alias) return false;
-        if (isRenamed) ++link;
+        const auto& was = *static_cast<const WikilinkNode*>(before);
+        const auto& is = *static_cast<const WikilinkNode*>(at.node);
+        const bool isRenamed = link != links.end() && link->trialOffset == at.offset;
+        const std::u16string target = isRenamed ? link++->target : canonical(was.encodedSegments());
+        if (canonical(is.encodedSegments()) != target || is.alias != was.alias) return false;
+        before = before->nextInSequenceSkippingSubtree();
         at.nextInSequenceSkippingSubtree();
-        tried = tried->nextInSequenceSkippingSubtree();
     }
-    return !tried;
+    return !before && !at.node;
 }
 
 /// Behind the first line that is neither front matter nor blank.
@@ -209,27 +230,29 @@ std::int64_t titleEnd(const Tree& tree) {
 
 std::vector<Result> UpdateWikiLinks::run(const Tree& tree, std::int64_t, std::int64_t,
                                          std::int64_t selectionOffset, std::int64_t selectionLength) const {
-    const std::u16string from = Segments::encode(Segments::decode(from_));
-    const std::u16string to = Segments::encode(Segments::decode(to_));
-    if (from.empty() || to.empty()) return {};
+    const std::u16string from = canonical(from_);
+    const bool isOneLine = to_.find_first_of(u"\r\n") == std::u16string_view::npos;
+    if (from.empty() || canonical(to_).empty() || !isOneLine) return {};
     const std::int64_t start = skipInTitle_ ? titleEnd(tree) : 0;
 
-    std::vector<Edit> edits;
-    Renaming renaming(tree, from, to);
+    std::vector<Link> changes;
+    Renaming renaming(tree, from, Segments::encode(trimmedSegments(to_)));
     Node::Iterator block = tree.root->begin();
     for (block.firstChild(); block.node; block.nextSibling())
-        renaming.addBlock(block, start, edits);
+        renaming.addBlock(block, start, changes);
 
     std::vector<Result> results;
-    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit)
-        Result::addToList(results, edit->offset, edit->length, std::move(edit->text), selectionOffset,
+    for (auto link = changes.rbegin(); link != changes.rend(); ++link)
+        Result::addToList(results, link->offset, link->length, std::move(link->text), selectionOffset,
                           selectionLength);
     return results;
 }
 
 std::u16string UpdateWikiLinks::encodedSegmentsToMarkdownWikiLink(std::u16string_view encoded,
                                                                   std::u16string_view alias) {
-    return wikilink(encodedSegmentsToMarkdown(encoded), u"|", alias);
+    std::u16string text = u"[[" + encodedSegmentsToMarkdown(encoded);
+    if (!alias.empty()) text.append(u"|").append(alias);
+    return text + u"]]";
 }
 
 std::u16string UpdateWikiLinks::encodedSegmentsToMarkdown(std::u16string_view encoded) {
@@ -237,10 +260,11 @@ std::u16string UpdateWikiLinks::encodedSegmentsToMarkdown(std::u16string_view en
 }
 
 std::u16string UpdateWikiLinks::decodedSegmentsFromMarkdown(std::u16string_view encoded) {
+    const std::vector<std::u16string> segments = Segments::decode(encoded);
     std::u16string joined;
-    for (const std::u16string& segment : Segments::decode(encoded)) {
-        if (!joined.empty()) joined += u'/';
-        joined += segment;
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        if (i > 0) joined += u'/';
+        joined += segments[i];
     }
     std::u16string text;
     for (std::size_t i = 0; i < joined.size(); ++i) {

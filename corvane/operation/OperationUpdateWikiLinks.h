@@ -12,13 +12,13 @@ namespace CVN::Operation {
 /// folded. Both targets are encoded as by Ondo::Segments, and must outlive the call.
 ///
 /// Range and selection say nothing about where: it is the whole note, but for the title line behind front
-/// matter where that is to be skipped. A link keeps its alias and the segments behind those of `from`. One
-/// result a link, from the last to the first.
+/// matter where that is to be skipped. A link keeps its alias and the header behind `from`, as they are
+/// written. One result a link, from the last to the first.
 ///
-/// The new text of a link parses as a wikilink to the new target, and everything around it as before. Links
-/// for which no spelling does, such as to a name with a line ending or with more than two segments, stay as
-/// they are, and so do the other links of their first-level block where it is their surroundings that make a
-/// name unspellable. Nothing happens to or from an empty target.
+/// Blanks at the ends of segments are trimmed, and of more than two segments all but the first are a header.
+/// The new text of a link is a wikilink to `to`, spelt so that everything around it is parsed as before;
+/// where no spelling does, characters that markup uses are written as entities. Links that would be none stay
+/// as they are. Nothing happens to or from an empty target, and to one with a line ending.
 class CORVANE_EXPORT UpdateWikiLinks : public Operation {
 public:
     UpdateWikiLinks(std::u16string_view from, std::u16string_view to, bool skipInTitle = false)

@@ -3,8 +3,8 @@
 #include <string_view>
 
 #include "corvane/block/Table.h"
-#include "corvane/operation/LineWalk.h"
 #include "corvane/scan/Go.h"
+#include "corvane/scan/Lines.h"
 
 namespace CVN::Operation {
 
@@ -18,15 +18,30 @@ bool isInRow(const Node* node) {
     return node;
 }
 
-bool isDelimiterRow(const Node* node) {
-    return isOfType(node, Ondo::ONDO_TABLE_DELIMITER_ROW_NODE);
-}
-
-std::u16string_view withoutBlanks(std::u16string_view line) {
+/// What a line holds between its blanks.
+std::u16string_view contentOf(std::u16string_view line) {
     constexpr std::u16string_view blanks = u" \t\r\n";
     const auto start = line.find_first_not_of(blanks);
     if (start == std::u16string_view::npos) return {};
     return line.substr(start, line.find_last_not_of(blanks) + 1 - start);
+}
+
+/// Whether the blanks before the content of a line make indented code of it, which the simplified dialect
+/// lacks.
+bool isCode(const Ondo::Tree& tree, std::u16string_view line) {
+    constexpr std::int64_t codeIndentation = 4;
+    const auto start = static_cast<std::int64_t>(line.find_first_not_of(u" \t"));
+    return !isSimplified(tree) &&
+           Ondo::Lines::Line::indentationAtOffsetRelativeToStart(start, 0, line) >= codeIndentation;
+}
+
+void passDelimiter(Ondo::Go& go) {
+    go.nextWhile(Ondo::Go::character(u' '));
+    go.nextWhile(Ondo::Go::character(u':'), 1);
+    go.nextMatch(Ondo::Go::character(u'-'), 1, Ondo::Go::NoLimit);
+    go.nextWhile(Ondo::Go::character(u':'), 1);
+    go.nextWhile(Ondo::Go::character(u' '));
+    go.nextMatch(Ondo::Go::character(u'|'), 1, 1);
 }
 
 } // namespace
@@ -83,13 +98,21 @@ std::u16string lineEndingOf(const Ondo::Tree& tree, const Node::Iterator& row) {
     return std::u16string(tree.markdownIn({end, row.end() - end}));
 }
 
-bool isRowOf(const Ondo::Tree& tree, std::int64_t lineStart, std::int64_t columns) {
-    Node::Iterator ending = leafAt(tree, lineStart);
-    if (!ending.node) return false;
+bool readsAsDelimiterRow(std::u16string_view row) {
+    Ondo::Go go(contentOf(row));
+    go.nextMatch(Ondo::Go::character(u'|'), 1, 1);
+    while (!go.hasFailed() && !go.isAtEnd())
+        passDelimiter(go);
+    return !go.hasFailed();
+}
+
+bool isRowOf(const Ondo::Tree& tree, const Node::Iterator& line, std::int64_t columns) {
+    Node::Iterator ending = line;
     ending.endOfLine();
-    const auto line = withoutBlanks(tree.markdownIn({lineStart, ending.end() - lineStart}));
-    if (line.empty() || line.front() != u'|') return false;
-    Ondo::Go cell(line);
+    const auto text = tree.markdownIn({line.offset, ending.end() - line.offset});
+    const auto content = contentOf(text);
+    if (content.empty() || content.front() != u'|' || isCode(tree, text)) return false;
+    Ondo::Go cell(content);
     cell.setPos(1);
     while (columns > 0 && Ondo::Block::Table::matchColumn(cell))
         --columns;

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
+#include "corvane/operation/LineWalk.h"
 #include "corvane/tree/Node.h"
 #include "corvane/tree/Tree.h"
 
@@ -13,6 +15,10 @@ namespace CVN::Operation {
 // the pipe of column C, counted from 0, opens its cell, and the next one closes it.
 //
 // Iterators without a node mean that there is none.
+
+inline bool isDelimiterRow(const Ondo::Node* node) {
+    return isOfType(node, Ondo::ONDO_TABLE_DELIMITER_ROW_NODE);
+}
 
 /// From a leaf up to the child of a row that holds it, or to none outside tables.
 void toRowChild(Ondo::Node::Iterator& at);
@@ -36,7 +42,11 @@ std::int64_t rowEnd(const Ondo::Node::Iterator& row);
 /// Empty for the last line of a text that doesn't end in one.
 std::u16string lineEndingOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& row);
 
-/// Whether a line below a table of so many columns would be a row of it.
-bool isRowOf(const Ondo::Tree& tree, std::int64_t lineStart, std::int64_t columns);
+/// Whether a row, given by its text, would be the delimiter row below another one.
+bool readsAsDelimiterRow(std::u16string_view row);
+
+/// Whether a line outside containers, given by its line node, would be a row below the delimiter row of so
+/// many columns.
+bool isRowOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& line, std::int64_t columns);
 
 } // namespace CVN::Operation

@@ -1,7 +1,7 @@
 #include "corvane/operation/TagSpelling.h"
 
+#include <algorithm>
 #include <memory>
-#include <span>
 
 #include "corvane/block/Paragraph.h"
 #include "corvane/inline/BackslashEscape.h"
@@ -46,21 +46,20 @@ private:
 struct Escape {
     char16_t character;
     enum When {
-        Always,    ///< it ends a tag, or the cell of a table
-        IfGuarded, ///< it closes what began before the tag
-        IfNeeded   ///< it stands in the way in some names
+        Always,   ///< it ends a tag
+        IfNeeded, ///< it stands in the way in some names
+        IfGuarded ///< it closes what began before the tag, or ends the cell of a table
     } when;
     std::u16string_view text;
 };
 
 constexpr Escape escapes[] = {
-    {u'#', Escape::Always, u"\\#"},        {u'|', Escape::Always, u"\\|"},
-    {u'`', Escape::IfGuarded, u"&grave;"}, {u'$', Escape::IfGuarded, u"\\$"},
-    {u'>', Escape::IfGuarded, u"&gt;"},    {u'&', Escape::IfNeeded, u"\\&"},
-    {u'(', Escape::IfNeeded, u"\\("},      {u')', Escape::IfNeeded, u"\\)"},
-    {u'{', Escape::IfNeeded, u"\\{"},      {u'}', Escape::IfNeeded, u"\\}"},
+    {u'#', Escape::Always, u"\\#"},        {u'&', Escape::IfNeeded, u"\\&"},
     {u'[', Escape::IfNeeded, u"\\["},      {u']', Escape::IfNeeded, u"\\]"},
-    {u'<', Escape::IfNeeded, u"\\<"},      {u'\n', Escape::IfNeeded, u"&NewLine;"},
+    {u'<', Escape::IfNeeded, u"\\<"},      {u'|', Escape::IfGuarded, u"\\|"},
+    {u'`', Escape::IfGuarded, u"&grave;"}, {u'$', Escape::IfGuarded, u"\\$"},
+    {u'>', Escape::IfGuarded, u"&gt;"},    {u')', Escape::IfGuarded, u"\\)"},
+    {u'"', Escape::IfGuarded, u"\\\""},    {u'\'', Escape::IfGuarded, u"\\'"},
 };
 
 const Escape* escapeOf(char16_t c) {
@@ -69,12 +68,11 @@ const Escape* escapeOf(char16_t c) {
     return nullptr;
 }
 
-std::u16string escaped(std::u16string_view encoded, bool isGuarded, bool isNeeded) {
-    const bool isOn[] = {true, isGuarded, isNeeded};
+std::u16string escaped(std::u16string_view encoded, Escape::When level) {
     std::u16string text;
     for (const char16_t c : encoded) {
         const Escape* const escape = escapeOf(c);
-        if (escape && isOn[escape->when])
+        if (escape && escape->when <= level)
             text += escape->text;
         else
             text += c;
@@ -82,24 +80,13 @@ std::u16string escaped(std::u16string_view encoded, bool isGuarded, bool isNeede
     return text;
 }
 
-/// What stands around a name, the plainest first. A slash at an end adds no segment, and keeps apart what may
-/// not stand next to a marker.
-struct Markers {
-    std::u16string_view open;
-    std::u16string_view close;
-};
-
-constexpr Markers plainMarkers[] = {{u"#", u""}, {u"#", u"#"}};
-constexpr Markers slashMarkers[] = {{u"#", u"/"}, {u"#", u"/#"}, {u"#/", u"#"}, {u"#/", u"/#"}};
-
 } // namespace
 
-bool hasClosingCharacter(std::u16string_view encoded) {
-    return encoded.find_first_of(u"`$>") != std::u16string_view::npos;
-}
-
-bool hasOpeningCharacter(std::u16string_view text) {
-    return text.find_first_of(u"`$<") != std::u16string_view::npos;
+bool isClosing(std::u16string_view encoded) {
+    return std::any_of(encoded.begin(), encoded.end(), [](char16_t c) {
+        const Escape* const escape = escapeOf(c);
+        return c == u']' || (escape && escape->when == Escape::IfGuarded);
+    });
 }
 
 bool isSpelling(std::u16string_view text, std::u16string_view encoded, const TagPlace& place) {
@@ -110,21 +97,18 @@ bool isSpelling(std::u16string_view text, std::u16string_view encoded, const Tag
     return TagReader().isTag(line += place.behind, start, end, encoded);
 }
 
-std::u16string tagSpelling(std::u16string_view path, const TagPlace& place) {
-    const std::u16string encoded = Ondo::Segments::encode(Ondo::Segments::decode(path));
-    const auto firstThatFits = [&](std::span<const Markers> markers) {
-        for (const int level : {0, 1, 2}) {
-            const std::u16string name = escaped(encoded, place.isGuarded || level == 2, level > 0);
-            for (const Markers& each : markers) {
-                std::u16string text = std::u16string(each.open) + name + std::u16string(each.close);
-                if (isSpelling(text, encoded, place)) return text;
-            }
-        }
-        return std::u16string();
-    };
-    if (encoded.empty() || static_cast<std::int64_t>(encoded.size()) > longestTag) return {};
-    const std::u16string plain = firstThatFits(plainMarkers);
-    return plain.empty() ? firstThatFits(slashMarkers) : plain;
+std::vector<std::u16string> tagSpellings(std::u16string_view encoded, bool isGuarded) {
+    std::vector<std::u16string> spellings;
+    if (encoded.empty() || static_cast<std::int64_t>(encoded.size()) > longestTag) return spellings;
+    if (encoded.find_first_of(u"\r\n") != encoded.npos) return spellings;
+    for (const Escape::When level : {Escape::Always, Escape::IfNeeded, Escape::IfGuarded}) {
+        if (isGuarded && level != Escape::IfGuarded) continue;
+        const std::u16string text = u'#' + escaped(encoded, level);
+        if (!spellings.empty() && text == *(spellings.end() - 2)) continue;
+        spellings.push_back(text);
+        spellings.push_back(text + u'/');
+    }
+    return spellings;
 }
 
 } // namespace CVN::Operation

@@ -1,11 +1,11 @@
 #include "corvane/operation/UnindentedText.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "corvane/operation/IndentInfo.h"
 #include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
 
@@ -21,10 +21,10 @@ std::u16string restOfLine(const Ondo::Tree& tree, std::int64_t offset) {
 
 namespace {
 
-/// Whether a text of its own is one block of a type.
-bool isOneBlock(std::u16string text, std::uint16_t type, Ondo::RuleConfig::RuleSet rules) {
-    const Ondo::Tree probe(std::move(text), rules);
-    const Node* const block = probe.root->firstChild;
+/// Whether a text of its own is one block of a type, by the rules of a tree.
+bool isOneBlock(const Ondo::Tree& tree, std::u16string_view text, std::uint16_t type) {
+    const Ondo::Tree trial = trialParse(tree, text);
+    const Node* const block = trial.root->firstChild;
     return isOfType(block, type) && !block->nextSibling;
 }
 
@@ -33,7 +33,7 @@ bool isOneBlock(std::u16string text, std::uint16_t type, Ondo::RuleConfig::RuleS
 bool continuesParagraph(const Ondo::Tree& tree, std::int64_t textOffset) {
     const char16_t first = unitAt(tree, textOffset);
     if (first > 0x7f || (first >= u'a' && first <= u'z') || (first >= u'A' && first <= u'Z')) return true;
-    return isOneBlock(u"x\n" + restOfLine(tree, textOffset), Ondo::ONDO_PARAGRAPH_NODE, tree.ruleSet);
+    return isOneBlock(tree, u"x\n" + restOfLine(tree, textOffset), Ondo::ONDO_PARAGRAPH_NODE);
 }
 
 bool mayBeItem(char16_t first) {
@@ -51,7 +51,7 @@ bool staysBlock(const Ondo::Tree& tree, const Node::Iterator& block) {
         const LinePrefix prefix(tree, line);
         text += restOfLine(tree, prefix.textOffset()) + u'\n';
     }
-    return isOneBlock(std::move(text), block->type, tree.ruleSet);
+    return isOneBlock(tree, text, block->type);
 }
 
 bool holdsFenceLikeLines(std::u16string_view block) {

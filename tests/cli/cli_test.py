@@ -118,6 +118,7 @@ BAD_USAGE = [
     (["correct"], "NAME is missing; the names are fencedCodeCorrectionIn, "),
     (["correct", "indent", "--range", "0,0", "--text", "a"], "there is no indent; the names are fenced"),
     (["correct", "calloutCorrectionIn", "--text", "a"], "--range is required"),
+    (["correct", "selectionCorrectionIn", "--range", "0,0", "--text", "a"], "selectionCorrectionIn takes none"),
     (["correct", "calloutCorrectionIn", "--range", "0,0"], "--text is required"),
     (["correct", "calloutCorrectionIn", "--range", "0,0", "--text", "a\udcff"], "--text: invalid UTF-8 at byte offset 1"),
     (["correct", "calloutCorrectionIn", "a", "b"], "b"),
@@ -685,7 +686,8 @@ class Commanding(CommandTest):
             arguments = ["yes" if parameter == "SKIP_IN_TITLE" else "0" for parameter in parameters]
             self.assertIsInstance(self.results("op", name, *arguments, "-", "--range", "0,0"), list)
         for name in re.findall(r"^\w+", corrections, re.MULTILINE):
-            self.assertIsInstance(self.results("correct", name, "--range", "0,0", "--text", "a"), list)
+            text = "" if name.startswith("selection") else "a"
+            self.assertIsInstance(self.results("correct", name, "--range", "0,0", "--text", text), list)
 
     def test_commands_on_the_whole_note_need_no_range(self):
         note = "#a [[b/c|d]]\n"
@@ -700,7 +702,7 @@ class Commanding(CommandTest):
                 self.assertEqual(self.results("op", "--apply", "--", *words, note=note)["text"], expected)
 
     def test_the_selection_is_corrected_in_the_text_as_it_stands(self):
-        words = ["correct", "selectionCorrectionIn", "--range", "0,1", "--text", "", "--selection"]
+        words = ["correct", "selectionCorrectionIn", "--range", "0,1", "--selection"]
         self.assertEqual(self.results(*words, "0,5", note="a **b**"),
                          [{"range": [0, 0], "text": "", "selection": [0, 7]}])
         self.assert_refused(2, ["0,8", "of 7 code units"], *words, "0,8", stdin=b"a **b**")

@@ -34,7 +34,10 @@ TEST(PasteWhitespaceCorrection, Edges) {
         {u"a\t‸\u00A0b", u"word", u""},
         // lines
         {u"‸", u" word ", u""},
-        {u"a\n‸\nb", u" word ", u""},
+        {u"a\n‸\nb", u" word ", u"a\n word‸\nb"},
+        {u"‸ b", u"word ", u"word‸ b"},
+        {u"‸ b", u"  ", u""},
+        {u"‸ b", u"\t ", u""},
         {u"a\r‸b", u"word", u"a\rword ‸b"},
         {u"a ‸\r\nb", u" word ", u"a word‸\r\nb"},
         {u"a‸b", u"\nword\n", u""},
@@ -58,6 +61,9 @@ TEST(PasteWhitespaceCorrection, Edges) {
         {u"2 *‸", u"3", u""},
         {u"[a](b)‸c", u"word", u"[a](b) word ‸c"},
         {u"[‸a](b)", u"x", u"[x ‸a](b)"},
+        {u"#tag/‸", u"sub", u""},
+        {u"#tag#‸", u"word", u"#tag# word‸"},
+        {u"[[p/‸q]]", u"x", u"[[p/x ‸q]]"},
         {u"==🔴‸a==", u"x", u"==🔴x ‸a=="},
         // code
         {u"`a‸b`", u"word", u""},

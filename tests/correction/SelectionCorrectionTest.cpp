@@ -72,6 +72,7 @@ TEST(SelectionCorrection, GrowingTakesConstructsIn) {
         // single markers
         {u"‸a \\* b", u"⟦a \\⟧* b", u"⟦a \\⟧* b"},
         {u"‸a #tag b", u"⟦a #t⟧ag b", u"⟦a #t⟧ag b"},
+        {u"a #t‸ag/ b", u"a #t⟦ag/⟧ b", u"a #t⟦ag/⟧ b"},
         // blocks, cells, other scripts
         {u"# a **‸b c**\n\n> _d e_ f", u"# a **b⟦ c**\n\n> _d⟧ e_ f", u"# a ⟦**b c**\n\n> _d e_⟧ f"},
         {u"> **a ‸b\n> c** d\n", u"> **a ⟦b\n> c** ⟧d\n", u"> ⟦**a b\n> c** ⟧d\n"},
@@ -113,23 +114,40 @@ TEST(SelectionCorrection, PartsOfLinks) {
         {u"[text](url ‸\"title\")", u"[text](url ⟦\"title\"⟧)", u"⟦[text](url \"title\")⟧"},
         {u"a [te‸xt](url)", u"a [te⟦xt](u⟧rl)", u"a ⟦[text](url)⟧"},
         {u"a [te⟦xt⟧](<url>)", u"a [te⟦xt](<url>)⟧", u"a ⟦[text](<url>)⟧"},
-        {u"a ⟦[text](url)⟧", u"a [te⟦xt](u⟧rl)", u"a [te⟦xt⟧](url)"},
-        {u"a ⟦[text](url)⟧", u"a [text⟦](url⟧)", u"a [text](⟦url⟧)"},
+        {u"a ⟦[text](url)⟧", u"a [te⟦xt](u⟧rl)", u"a ⟦[text](url)⟧"},
+        {u"a ⟦[text](url)⟧", u"a ⟦[text](url⟧)", u"a [⟦text⟧](url)"},
+        {u"a ⟦[text](url)⟧", u"a [⟦text](url)⟧", u"a [⟦text⟧](url)"},
+        {u"a ⟦[](url)⟧", u"a ⟦[](url⟧)", u"a [](⟦url⟧)"},
         {u"‸[![alt](u)](v)", u"⟦[![al⟧t](u)](v)", u"⟦[![alt](u)](v)⟧"},
     });
 }
 
-TEST(SelectionCorrection, ShrinkingGivesConstructsUp) {
+TEST(SelectionCorrection, ShrinkingKeepsConstructsWhole) {
+    expectCorrected({
+        {u"⟦a **bold** c⟧", u"⟦a **bold*⟧* c", u"⟦a **bold**⟧ c"},
+        {u"⟦a **bold** c⟧", u"⟦a **⟧bold** c", u"⟦a **bold**⟧ c"},
+        {u"⟦a **bold** c⟧", u"⟦a ⟧**bold** c", u"⟦a ⟧**bold** c"},
+        {u"⟦**bold** c⟧", u"**bol⟦d** c⟧", u"⟦**bold** c⟧"},
+        {u"⟦**bold** c⟧", u"**bold**⟦ c⟧", u"**bold**⟦ c⟧"},
+        {u"⟦**bold**⟧", u"⟦**bo⟧ld**", u"⟦**bold**⟧"},
+        {u"⟦**bold**⟧", u"**b⟦ol⟧d**", u"**b⟦ol⟧d**"},
+        {u"⟦**bold**⟧", u"**⟦bold⟧**", u"**⟦bold⟧**"},
+        {u"⟦**a b** c __d e__⟧", u"**a ⟦b** c __d⟧ e__", u"⟦**a b** c __d e__⟧"},
+        {u"⟦**a _b c_ d**⟧", u"⟦**a _b⟧ c_ d**", u"⟦**a _b c_ d**⟧"},
+        {u"⟦**_bold_**⟧", u"**_bo⟦ld_⟧**", u"⟦**_bold_**⟧"},
+        // of an old selection that split a construct there is nothing to keep
+        {u"⟦a **bol⟧d**", u"⟦a **b⟧old**", u"⟦a ⟧**bold**"},
+    });
+}
+
+TEST(SelectionCorrection, KeysThatShrinkGiveConstructsUp) {
     expectCorrected({
         {u"⟦a **bold**⟧ c", u"⟦a **bold*⟧* c", u"⟦a ⟧**bold** c"},
-        {u"⟦**bold** c⟧", u"**bol⟦d** c⟧", u"**bold**⟦ c⟧"},
+        {u"a ⟦`x` c⟧", u"a `⟦x` c⟧", u"a `x`⟦ c⟧"},
         {u"⟦**bold**⟧", u"⟦**bold*⟧*", u"**⟦bold⟧**"},
-        {u"⟦**bold**⟧", u"⟦**bo⟧ld**", u"**⟦bo⟧ld**"},
-        {u"⟦**a _b c_ d**⟧", u"⟦**a _b⟧ c_ d**", u"**⟦a ⟧_b c_ d**"},
-        {u"⟦**_bold_**⟧", u"⟦**_bo⟧ld_**", u"**_⟦bo⟧ld_**"},
-        {u"⟦**a b** c __d e__⟧", u"**a ⟦b** c __d⟧ e__", u"**a b**⟦ c ⟧__d e__"},
-        {u"⟦**bold**⟧", u"⟦*⟧*bold**", u"‸**bold**"},
-        {u"⟦**bold**⟧", u"**bold*⟦*⟧", u"**bold**‸"},
+        {u"⟦**bold**⟧", u"*⟦*bold**⟧", u"**⟦bold⟧**"},
+        {u"**⟦_bold_⟧**", u"**⟦_bold⟧_**", u"**_⟦bold⟧_**"},
+        {u"⟦[]()⟧", u"⟦[](⟧)", u"‸[]()"},
         {u"⟦😀 **a** b⟧", u"⟦😀 **a** ⟧b", u"⟦😀 **a** ⟧b"},
     });
 }
@@ -143,7 +161,7 @@ TEST(SelectionCorrection, CaretsAndPartedPairs) {
 }
 
 TEST(SelectionCorrectionDeathTest, TextIsNoneOfItsBusiness) {
-    EXPECT_DEATH(SelectionCorrection().run(Tree(u"a"), 0, 1, u"b", 0, 1), "SelectionCorrection");
+    EXPECT_DEATH(SelectionCorrection().run(Tree(u"a"), 0, 1, u"b", 0, 1), "replaceString == u\"\"");
 }
 
 /// Markers of inlines with more than one, by walking over the whole tree.
@@ -183,15 +201,16 @@ bool isLostText(const std::vector<MarkerSpan>& markers, std::int64_t offset) {
     return true;
 }
 
+bool isInPair(std::u16string_view text, std::int64_t at) {
+    return at > 0 && at < static_cast<std::int64_t>(text.size()) &&
+           (text[static_cast<std::size_t>(at)] & 0xFC00) == 0xDC00 &&
+           (text[static_cast<std::size_t>(at - 1)] & 0xFC00) == 0xD800;
+}
+
 /// Of a range whose edges may part surrogate pairs.
 Range withPairs(std::u16string_view text, const Range& range) {
-    const auto isLow = [text](std::int64_t at) {
-        return at > 0 && at < static_cast<std::int64_t>(text.size()) &&
-               (text[static_cast<std::size_t>(at)] & 0xFC00) == 0xDC00 &&
-               (text[static_cast<std::size_t>(at - 1)] & 0xFC00) == 0xD800;
-    };
-    const std::int64_t start = range.offset - (isLow(range.offset) ? 1 : 0);
-    return {start, range.end() + (isLow(range.end()) ? 1 : 0) - start};
+    const std::int64_t start = range.offset - (isInPair(text, range.offset) ? 1 : 0);
+    return {start, range.end() + (isInPair(text, range.end()) ? 1 : 0) - start};
 }
 
 bool isInside(const Range& range, const Range& other) {
@@ -224,6 +243,108 @@ TEST(SelectionCorrection, HoldsAllMarkersOrNone) {
             for (std::int64_t at = proposed.offset; at < proposed.end(); ++at)
                 ASSERT_TRUE(isInside({at, 1}, answer) || !isLostText(markers, at));
         }
+    }
+}
+
+bool isContent(const std::vector<MarkerSpan>& markers, const Range& range) {
+    for (const MarkerSpan& one : markers)
+        for (const MarkerSpan& other : markers)
+            if (one.maker == other.maker && one.range.end() == range.offset &&
+                other.range.offset == range.end())
+                return true;
+    return false;
+}
+
+/// Where one edge moved back by a unit a drag looks like a key.
+bool looksLikeKey(const Range& old, const Range& proposed) {
+    return proposed.length == old.length - 1 && isInside(proposed, old);
+}
+
+Range between(std::int64_t a, std::int64_t b) {
+    return {std::min(a, b), std::abs(a - b)};
+}
+
+std::string trace(const std::u16string& text, const Range& old, const Range& proposed, const Range& answer) {
+    return visible(Drawn(text, old).drawing()) + "\n" + visible(Drawn(text, proposed).drawing()) + "\n" +
+           visible(Drawn(text, answer).drawing());
+}
+
+/// Drags from a place to the end of the text on one side, by strides, and back.
+void expectSteadyDrag(const Tree& tree, const std::u16string& text, std::int64_t anchor,
+                      std::int64_t stride) {
+    const std::vector<MarkerSpan> markers = markersOf(tree);
+    Range old{anchor, 0};
+    Range largest = old;
+    bool isOutward = true;
+    for (std::int64_t pointer = anchor + stride; pointer != anchor; pointer += isOutward ? stride : -stride) {
+        if (pointer < 0 || pointer > tree.length()) isOutward = false;
+        if (pointer < 0 || pointer > tree.length() || isInPair(text, pointer)) continue;
+        const Range proposed = between(anchor, pointer);
+        const Range answer = corrected(tree, old, proposed);
+        SCOPED_TRACE(trace(text, old, proposed, answer));
+        ASSERT_EQ(splitConstruct(markers, answer), -1);
+        for (const Range& from : {old, proposed, answer})
+            ASSERT_EQ(corrected(tree, from, answer), answer);
+        const bool isExempt = looksLikeKey(old, proposed) || isContent(markers, proposed);
+        if (isOutward && !isExempt) {
+            ASSERT_TRUE(isInside(largest, answer)) << visible(Drawn(text, largest).drawing());
+            for (std::int64_t at = proposed.offset; at < proposed.end(); ++at)
+                ASSERT_TRUE(isInside({at, 1}, answer) || !isLostText(markers, at));
+            largest = answer;
+        }
+        old = answer;
+    }
+}
+
+/// Presses a key until its edge is at the end of the text on that side: each press moves the edge that way.
+void expectProgress(const Tree& tree, const std::u16string& text, Range old, std::int64_t step, bool isEnd) {
+    for (;;) {
+        if (old.length == 0) isEnd = step > 0;
+        const std::int64_t edge = isEnd ? old.end() : old.offset;
+        std::int64_t target = edge + step;
+        if (target >= 0 && target <= tree.length() && isInPair(text, target)) target += step;
+        if (target < 0 || target > tree.length()) return;
+        const Range proposed = between(isEnd ? old.offset : old.end(), target);
+        const Range answer = corrected(tree, old, proposed);
+        SCOPED_TRACE(trace(text, old, proposed, answer));
+        ASSERT_GT(((isEnd ? answer.end() : answer.offset) - edge) * step, 0);
+        old = answer;
+    }
+}
+
+void expectSteady(const std::u16string& text, std::int64_t from, RuleConfig::RuleSet rules) {
+    if (isInPair(text, from)) return;
+    const Tree tree(text, rules);
+    for (const std::int64_t stride : {1, -1, 2, -3, 5})
+        expectSteadyDrag(tree, text, from, stride);
+    for (const std::int64_t step : {1, -1}) {
+        expectProgress(tree, text, {from, 0}, step, true);
+        // out to a place and back again, with the same edge
+        const Range all = corrected(tree, {from, 0}, between(from, step > 0 ? tree.length() : 0));
+        expectProgress(tree, text, all, -step, step > 0);
+    }
+}
+
+TEST(SelectionCorrection, DragsAreSteadyAndKeysGoOn) {
+    for (const char16_t* text : {
+             u"a **bold** c",
+             u"**_bold_** `x` *y*",
+             u"a **b _c d_ e** f ~~g *h*~~",
+             u"a [te **b** xt](<url> \"t\") b ![i](u) [](v)",
+             u"[![alt](u)](v) `` c`d `` $m+n$ ==🔴x==",
+             u"a [[p/q|r]] #t/u v# &amp; <http://b.c> [^1]\n\n[^1]: *x*",
+             u"> **a\n> b** c\n\n| _a_ | `b` |\n|--|--|\n| **c** | d |\n",
+             u"😀 **😀** 😀",
+         }) {
+        const std::u16string note(text);
+        for (std::int64_t from = 0; from <= static_cast<std::int64_t>(note.size()); ++from)
+            expectSteady(note, from, RuleConfig::Extended);
+    }
+    RandomNote random(23);
+    for (int round = 0; round < 150; ++round) {
+        const std::u16string text = random.note(3);
+        const auto from = static_cast<std::int64_t>(random.below(text.size() + 1));
+        expectSteady(text, from, allRuleSets[random.below(3)]);
     }
 }
 

@@ -36,7 +36,7 @@ TEST(AddTagTest, AtTheEndAndBeforeFootnotes) {
                                  {u"‸#x\n\n[^1]: b\n\n[^2]: c", u"‸#x #n\n\n[^1]: b\n\n[^2]: c"},
                                  {u"[^1]: b‸", u"#n\n\n[^1]: b‸"},
                                  {u"\n[^1]: b‸", u"#n\n\n[^1]: b‸"},
-                                 {u"\n\n\n[^1]: b‸", u"#n\n\n\n[^1]: b‸"},
+                                 {u"\n\n[^1]: b‸", u"#n\n\n\n[^1]: b‸"},
                                  {u"‸---\na: b\n---\n[^1]: c", u"‸---\na: b\n---\n\n#n\n\n[^1]: c"},
                                  // below what is left open it would be no tag
                                  {u"‸a\n```\nb\n", u"‸a\n\n#n\n```\nb\n"},
@@ -44,6 +44,7 @@ TEST(AddTagTest, AtTheEndAndBeforeFootnotes) {
                                  {u"‸<!-- b", u"#n\n\n‸<!-- b"},
                              });
     expectEach(AddTag(u"a b"), {{u"‸x", u"‸x\n\n#a b#"}, {u"‸#x", u"‸#x #a b#"}});
+    expectEach(AddTag(u"b`c"), {{u"‸`x", u"‸`x\n\n#b`c"}, {u"‸`x #t", u"‸`x #t #b&grave;c"}});
     expectEach(AddTag(u"a//b"), {{u"x‸", u""}});
 }
 
@@ -75,7 +76,10 @@ TEST(AddTagAtTopTest, BelowTheTitle) {
                                       {u"‸# a\n[b]: c\n", u"‸# a\n#n\n\n[b]: c\n"},
                                       {u"‸# a\n- b\n", u"‸# a\n#n\n- b\n"},
                                       {u"[^1]: b‸", u"#n\n\n[^1]: b‸"},
+                                      {u"‸<!-- a -->\n# b\n", u"‸<!-- a -->\n#n\n# b\n"},
+                                      {u"‸<p>\n\nb\n", u"‸<p>\n\n#n\n\nb\n"},
                                   });
+    expectEach(AddTagAtTop(u"us$"), {{u"‸$5\nx", u"‸$5\n#us$#\nx"}, {u"‸5\n$x #t", u"‸5\n$x #t #us\\$#"}});
 }
 
 /// One paragraph more, or none: then the tag has joined a block.

@@ -28,6 +28,14 @@ TEST(AppendTextTest, AtTheEndAboveTagsAndFootnotes) {
                                             // but not those below the title
                                             {u"‸# a\n#t\n", u"‸# a\n#t\nx\n"},
                                             {u"‸# a\n\n#t\n\n[^1]: b", u"‸# a\n\n#t\nx\n\n[^1]: b"},
+                                            {u"‸# a\n\n#t\n#u", u"‸# a\n\n#t\n#u\nx\n"},
+                                            {u"‸a\n===\n#t\n", u"‸a\n===\n#t\nx\n"},
+                                            {u"‸a\n===\n\n#t\n", u"‸a\n===\n\n#t\nx\n"},
+                                            {u"‸- a\n\n#t\n", u"‸- a\n\n#t\nx\n"},
+                                            // where the title is all that stands above
+                                            {u"‸a\nb\n\n#t", u"‸a\nb\nx\n\n#t"},
+                                            {u"‸a\nb\n===\n#t", u"‸a\nb\n===\nx\n\n#t"},
+                                            {u"‸- a\n- b\n\n#t", u"‸- a\n- b\nx\n\n#t"},
                                             // footnotes stay behind, on their own
                                             {u"‸a\n\n[^1]: b\n", u"‸a\nx\n\n[^1]: b\n"},
                                             {u"‸# a\n[^1]: b\n", u"‸# a\nx\n\n[^1]: b\n"},

@@ -46,12 +46,20 @@ TEST(InsertBlock, Table) {
                           {u"⟦a⟧\r\nb", u"| ‸" + rest + u"\r\nb"},
                           // Apart from a table above or below
                           {u"| a |\n|---|\n‸\nb", u"| a |\n|---|\n\n| ‸" + rest + u"\nb"},
+                          {u"| a |\n|---|\n‸> b", u"| a |\n|---|\n\n| ‸" + rest + u"\n> b"},
                           {u"| a |\n|---|\n‸", u"| a |\n|---|\n\n| ‸" + rest},
+                          {u"| a |\n|---|\n\n‸", u"| a |\n|---|\n\n| ‸" + rest},
+                          {u"| a |\r\n|---|\r\n \r\n‸\r\nb", u"| a |\r\n|---|\r\n \r\n| ‸" + rest + u"\r\nb"},
+                          {u"| a |\n|---|\n ‸", u"| a |\n|---|\n \n| ‸" + rest},
                           {u"| a |\r|---|\r‸", u"| a |\r|---|\r\n\n| ‸" + rest},
                           {u"a‸\n| a |\n|---|", u"a\n| ‸" + rest + u"\n\n| a |\n|---|"},
                           {u"‸\n| a |\n|---|", u"| ‸" + rest + u"\n\n| a |\n|---|"},
                           {u"⟦a\n⟧| a |\n|---|", u"| ‸" + rest + u"\n\n| a |\n|---|"},
                           {u"a‸\n | b |\nc", u"a\n| ‸" + rest + u"\n\n | b |\nc"},
+                          {u"a‸\n    | b |\nc", u"a\n| ‸" + rest + u"\n    | b |\nc"},
+                          // In the place of one
+                          {u"⟦a\n\n| b |\n|---|⟧", u"| ‸" + rest},
+                          {u"⟦| b |\n|---|⟧\r\n\r\nc", u"| ‸" + rest + u"\r\n\r\nc"},
                       });
 }
 
@@ -63,6 +71,7 @@ TEST(InsertBlock, NotInTablesAndFrontMatter) {
                                 {u"| a |\n|-‸--|", u""},
                                 {u"| a |\n|---|‸", u""},
                                 {u"p ⟦\n| a⟧ |\n|---|", u""},
+                                {u"⟦a\n\n| b |\n|---|⟧\n| c |", u""},
                                 {u"‸---\nk: v\n---\n", u""},
                                 {u"---\nk: ‸v\n---\n", u""},
                                 {u"---\nk: v\n---‸\n", u""},

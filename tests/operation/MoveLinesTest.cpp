@@ -127,6 +127,9 @@ TEST(MoveLines, PassesTablesAndKeepsTheirRows) {
                        {u"| a |\n|---|\n‸", u"‸\n| a |\n|---|"},
                        // It would become a row of the table above, or the two tables one.
                        {u"| a |\n|---|\n\n‸| b |", u""},
+                       {u"| a |\n|---|\n\n‸   | b", u""},
+                       {u"| a |\n|---|\n\n‸    | b", u"| a |\n|---|\n‸    | b\n"},
+                       {u"| a |\n|---|\n\n\t| b‸\n", u"| a |\n|---|\n\t| b‸\n\n"},
                        {u"| a |\n|---|\n‸\n| b |\n|---|", u""},
                    });
     expectEach(down, {
@@ -135,6 +138,7 @@ TEST(MoveLines, PassesTablesAndKeepsTheirRows) {
                          {u"‸x\n| a |\n|---|\n| b |", u"| a |\n|---|\n| b |\n‸x"},
                          {u"⟦| a |\n|---|⟧\n\nx", u"\n⟦| a |\n|---|⟧\nx"},
                      });
+    expectEach(up, {{u"| a |\n|---|\n\n\t| b‸ |", u""}}, RuleConfig::Simplified);
     // There the lines are text.
     expectEach(up, {{u"x\n‸| a |\n|---|", u"‸| a |\nx\n|---|"}}, RuleConfig::Commonmark);
 }
@@ -146,11 +150,15 @@ TEST(MoveLines, KeepsFrontMatterTogether) {
                        {u"---\na: b\n‸---\ne", u""},
                        {u"---\na: b\n---\n‸e", u""},
                        {u"---\na: b\n---\n‸", u""},
+                       {u"a\n---‸\nb: c\n---\nd", u""},
+                       {u"...\r\n⟦---⟧", u""},
+                       {u"a\n---‸\nb: c\n --- \n....", u"---‸\na\nb: c\n --- \n...."},
                        {u"---\na: b\n---\ne\n⟦f⟧", u"---\na: b\n---\n⟦f⟧\ne"},
                        {u"---\n---\n\n‸e", u"---\n---\n‸e\n"},
                    });
     expectEach(down, {
                          {u"‸---\na: b\n---\ne", u""},
+                         {u"‸a\n---\nb: c\n---\n", u""},
                          {u"---\na: b‸\n---\ne", u""},
                          {u"---\na: b\n---‸\ne", u""},
                          {u"⟦---\na: b\n---\n⟧e", u""},

@@ -110,6 +110,24 @@ TEST(NormalizeTables, KeepsTheCaretWithTheText) {
                           });
 }
 
+TEST(NormalizeTables, AssertsWhatARowHolds) {
+    const auto normalizeWith = [](std::int64_t offset, auto spoil) {
+        const Tree tree(u"|a|\n|-|");
+        spoil(tree.nodeAtOffset(offset, Ondo::LevelSetting::Leaf));
+        normalize.run(tree, 0, 0, 0, 0);
+    };
+    EXPECT_DEATH(normalizeWith(5, [](Ondo::Node* dash) { dash->charCount = 0; }),
+                 "\\(delimiterNode->charCount >= 1\\), function normalizeTableNode, "
+                 "source OperationNormalizeTables");
+    EXPECT_DEATH(normalizeWith(1,
+                               [](Ondo::Node* text) {
+                                   Ondo::Node* const cell = text->parent;
+                                   cell->parent->link(text->unlinkSubtree(), cell);
+                               }),
+                 "\\(cellNode->type == ONDO_TABLE_CELL_NODE\\), function normalizeTableNode, "
+                 "source OperationNormalizeTables");
+}
+
 /// The tree of all cells, without their blanks.
 std::u16string cellsOf(const Tree& tree) {
     std::u16string cells;

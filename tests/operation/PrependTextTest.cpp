@@ -18,9 +18,13 @@ TEST(PrependTextTest, BelowTitleAndTags) {
                                       {u"‸a\rb", u"‸a\rx\nb"},
                                       {u"‸# a\n\n#t #u\nb", u"‸# a\n\n#t #u\nx\nb"},
                                       {u"‸# a\n#t", u"‸# a\n#t\nx\n"},
+                                      {u"‸a\n===\n#t\nb", u"‸a\n===\n#t\nx\nb"},
+                                      {u"‸a\n===\n#t", u"‸a\n===\n#t\nx\n"},
                                       {u"‸---\nk: v\n---\n\na\n\nb", u"‸---\nk: v\n---\n\na\nx\n\nb"},
                                       {u"‸---\nk: v\n---\n\n", u"‸---\nk: v\n---\nx\n\n"},
                                       {u"‸---\nk: v\n---", u"‸---\nk: v\n---\nx\n"},
+                                      {u"[^1]: a‸", u"x\n\n[^1]: a‸"},
+                                      {u"‸---\nk: v\n---\n[^1]: a", u"‸---\nk: v\n---\nx\n\n[^1]: a"},
                                   });
 }
 
@@ -31,6 +35,8 @@ TEST(PrependTextTest, NoBlockIsBrokenUp) {
                                       {u"‸> a\n> b\n", u"‸> a\n> b\n\nx\n"},
                                       {u"‸| a |\n|---|", u"‸| a |\n|---|\n\nx\n"},
                                       {u"‸```\na\n```\nb", u"‸```\na\n```\nx\nb"},
+                                      {u"‸<!-- a -->\n# b\nc", u"‸<!-- a -->\nx\n# b\nc"},
+                                      {u"‸<p>\n</p>", u"‸<p>\n</p>\n\nx\n"},
                                       {u"‸# a\n    b", u"‸# a\nx\n\n    b"},
                                       {u"‸# a\n[^1]: b", u"‸# a\nx\n\n[^1]: b"},
                                   });

@@ -38,12 +38,12 @@ TEST(TagTextTest, ThePlainestThatParsesAsTheTag) {
         {u"\U0001F600", u"#\U0001F600"},
         {u"a\U0001F534", u"#a\U0001F534"},
         {u"\u05d0\u05d1", u"#\u05d0\u05d1"},
-        // escapes: of the path, of the marker, of what ends a tag or a cell
+        // escapes: of the path, of the marker, of what ends a tag
         {u"a\\/b", u"#a\\/b"},
         {u"a\\\\b", u"#a\\\\b"},
         {u"a\\b", u"#a\\\\b"},
         {u"a#b", u"#a\\#b"},
-        {u"a|b", u"#a\\|b"},
+        {u"a|b", u"#a|b"},
         {u"R&D", u"#R&D"},
         {u"&amp;", u"#\\&amp;#"},
         {u"a[b]", u"#a\\[b\\]#"},
@@ -53,7 +53,6 @@ TEST(TagTextTest, ThePlainestThatParsesAsTheTag) {
         {u"a b(", u"#a b(/#"},
         {u"a b*", u"#a b*/#"},
         {u"a b\U0001F534", u"#a b\U0001F534/#"},
-        {u"\u00a0a", u"#/\u00a0a#"},
         // no spelling
         {u"", u""},
         {u" a", u""},
@@ -61,7 +60,9 @@ TEST(TagTextTest, ThePlainestThatParsesAsTheTag) {
         {u"a//b", u""},
         {u"/a", u""},
         {u"a/", u""},
+        {u"\u00a0a", u""},
         {u"a\rb", u""},
+        {u"a\nb", u""},
     };
     for (const auto& each : cases)
         EXPECT_EQ(visible(TagBase::encodedSegmentsToMarkdown(each.name)), visible(each.text))
@@ -103,8 +104,32 @@ TEST(RenameTagTest, TheClosingMarkerWhereTheTextAroundNeedsIt) {
                                             {u"‸x#b c#", u"‸x#a#"},
                                             {u"‸#b c#\U0001F600", u"‸#a#\U0001F600"},
                                         });
-    expectEach(RenameTag(u"a", u"us$"), {{u"‸$5 #a", u"‸$5 #us\\$#"}, {u"‸5 #a", u"‸5 #us$#"}});
     expectEach(RenameTag(u"a", u"b//c"), {{u"‸#a #a/d", u""}});
+}
+
+TEST(RenameTagTest, WhatWouldCloseAnotherConstructIsEscapedJustThere) {
+    expectEach(RenameTag(u"a", u"us$"), {
+                                            {u"‸$5 #a", u"‸$5 #us\\$#"},
+                                            {u"‸- x\n- $5 y #a", u"‸- x\n- $5 y #us\\$#"},
+                                            {u"‸Costs $5.\n\n#a x", u"‸Costs $5.\n\n#us$# x"},
+                                            {u"‸$5$ #a $x", u"‸$5$ #us$# $x"},
+                                        });
+    expectEach(RenameTag(u"a", u"b`c"), {
+                                            {u"‸`x #a", u"‸`x #b&grave;c"},
+                                            {u"‸`x\ny #a #a", u"‸`x\ny #b&grave;c #b&grave;c"},
+                                            {u"‸`ls` #a x\n\n#a", u"‸`ls` #b`c x\n\n#b`c"},
+                                        });
+    expectEach(RenameTag(u"a", u"b|c"), {
+                                            {u"‸#a x", u"‸#b|c x"},
+                                            {u"‸| #a |\n|---|\n| #a |", u"‸| #b\\|c |\n|---|\n| #b\\|c |"},
+                                            {u"‸| #a |\n|---|---|", u"‸| #b\\|c |\n|---|---|"},
+                                        });
+    expectEach(RenameTag(u"a", u"b>c"), {{u"‸<x y=#a", u"‸<x y=#b&gt;c"}, {u"‸<!-- #a", u""}});
+    expectEach(RenameTag(u"a", u"b\")c"), {{u"‸[x](u \"#a", u"‸[x](u \"#b\\\"\\)c"}, {u"‸#a", u"‸#b\")c#"}});
+    // in a long block always
+    const std::u16string words(5000, u'x');
+    EXPECT_EQ(visible(afterOperation(RenameTag(u"a", u"us$"), u"‸$5 " + words + u" #a")),
+              visible(u"‸$5 " + words + u" #us\\$#"));
 }
 
 /// A name of pieces that stand in the way somewhere.

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
+#include <string_view>
 
 #include "tests/support/Caret.h"
 #include "tests/support/RandomNote.h"
@@ -12,6 +14,7 @@ namespace CVN::Operation {
 namespace {
 
 using Ondo::RuleConfig;
+using Ondo::Test::Drawn;
 using Ondo::Test::expectEach;
 using Ondo::Test::visible;
 
@@ -72,6 +75,14 @@ TEST(RenumberOrderedList, MovesTheLinesOfAnItemAlong) {
             // An item must not get into the one before, whose text has come nearer.
             {u"1. a\n10. b\n   1. c‸", u"1. a\n2. b\n  3. c‸"},
         });
+    // Lazy text stays text.
+    expectEach(renumber, {
+                             {u"1. x\n  100. x\n    9. x‸", u"1. x\n  2. x\n    9. x‸"},
+                             {u"9. x\n100. x\n    - x‸", u"9. x\n10. x\n        - x‸"},
+                             {u"9. x\n100. x\n    x‸", u"9. x\n10. x\n    x‸"},
+                             {u"1. \n  10. x\n\t1. x‸", u"1. \n  2. x\n\t1. x‸"},
+                             {u"> 1. x\n>   100. x\n>     9. x‸", u"> 1. x\n>   2. x\n>     9. x‸"},
+                         });
     // A tab is enough for an item, whatever its marker.
     expectEach(renumber,
                {
@@ -110,6 +121,35 @@ TEST(RenumberOrderedList, ChangesDigitsAndBlanksOfRandomNotesAndIsDoneAtOnce) {
         const std::u16string once = renumbered(note);
         ASSERT_EQ(withoutDigitsAndBlanks(once), withoutDigitsAndBlanks(note)) << seed;
         ASSERT_EQ(visible(renumbered(once)), visible(once)) << seed << ": " << visible(note);
+    }
+}
+
+/// Of items and text at all kinds of indentation, lazy text among them.
+std::u16string noteOfItems(Ondo::Test::RandomNote& random) {
+    constexpr std::u16string_view starts[] = {u"", u"1. ", u"2. ", u"9. ", u"10. ", u"100. "};
+    std::u16string note = u"9. a";
+    for (std::size_t i = 1 + random.below(5); i > 0; --i) {
+        note += random.below(8) ? u"\n" : u"\n\t";
+        note += std::u16string(random.below(9), u' ');
+        note += starts[random.below(std::size(starts))];
+        note += u"a";
+    }
+    return note;
+}
+
+TEST(RenumberOrderedList, KeepsItemsAndLazyTextApartAndIsDoneAtOnce) {
+    for (std::uint64_t seed = 0; seed < 1500; ++seed) {
+        Ondo::Test::RandomNote random(seed);
+        const RuleConfig::RuleSet rules = random.below(2) ? RuleConfig::Extended : RuleConfig::Commonmark;
+        const Drawn note(noteOfItems(random), {0, 0});
+        const auto renumbered = [rules](const Drawn& text) {
+            const Ondo::Tree tree(text.text, rules);
+            return Ondo::Test::applied(text, renumber.run(tree, 0, tree.length(), 0, 0));
+        };
+        const Drawn once = renumbered(note);
+        ASSERT_EQ(Ondo::Test::html(once.text, rules), Ondo::Test::html(note.text, rules))
+            << visible(note.text);
+        ASSERT_EQ(visible(renumbered(once).text), visible(once.text)) << visible(note.text);
     }
 }
 

@@ -83,7 +83,8 @@ TEST(ToggleFold, OpensTheOutermostFold) {
                              u"> - a\r\n>   - b▸\r\n>     c‸\r\n>     - d\r\n"},
                             {u"# a▸\n- b▸\n  - c‸\n", u"# a\n- b▸\n  - c‸\n"},
                             {u"# a‸▸▸▸\nb\n", u"# a‸\nb\n"},
-                            {u"# a ‸▸ ▸\nb\n", u"# a ‸▸ \nb\n"},
+                            {u"# a ‸▸ \t▸\nb\n", u"# a ‸\nb\n"},
+                            {u"# a ▸ b‸▸\nb\n", u"# a ▸ b‸\nb\n"},
                         });
 }
 
@@ -131,6 +132,17 @@ TEST(ToggleFold, LeavesHeadsThatTakeNoComment) {
     expectFolds(toggle, {{u"# a\nb‸\n", u"# a‸▸\nb\n"}}, RuleConfig::Simplified);
 }
 
+TEST(ToggleFold, KnowsWhichRulesAreOff) {
+    const auto foldsText = [](bool isMathOff) {
+        Ondo::Tree tree({});
+        if (isMathOff) tree.removeRuleByName("MathBlock");
+        tree.replaceAll(u"> $$\n> - a\n>   - b\n");
+        return !toggle.run(tree, 9, 0, 9, 0).empty();
+    };
+    EXPECT_TRUE(foldsText(true));
+    EXPECT_FALSE(foldsText(false));
+}
+
 TEST(ToggleFold, FoldsAllHeadings) {
     expectFolds(foldAll,
                 {
@@ -143,6 +155,11 @@ TEST(ToggleFold, FoldsAllHeadings) {
                     {u"⟦x\n# a\nb\n# c\nd⟧", u"⟦x\n# a▸\nb\n# c▸\nd\n⟧"},
                     {u"# a\nb⟦\n# c\n## d⟧", u"# a‸▸\nb\n# c▸\n## d\n"},
                     {u"x\n# a\n## b\nc\n## d‸", u"x\n# a▸\n## b▸\nc\n## d\n‸"},
+                    // From within the comment of a fold into what it hides.
+                    {u"# x\ny\n# a▸⟦\n⟧b\n", u"# x▸\ny\n# a‸▸\nb\n"},
+                    {u"# x\ny\n# a▸⟦▸\n\nb⟧\n", u"# x▸\ny\n# a‸▸▸\n\nb\n"},
+                    {u"# T▸⟦\nx⟧\n# y\nz", u"# T‸▸\nx\n# y▸\nz\n"},
+                    {u"# T▸⟦\nx\n# y\nz⟧", u"# T▸⟦\nx\n# y▸\nz\n⟧"},
                     // A title that holds the rest of the note stays open.
                     {u"# a\nb‸\n", u""},
                     {u"\n\n# a\nb‸\n", u""},
@@ -157,6 +174,8 @@ TEST(ToggleFold, UnfoldsAll) {
     expectFolds(unfoldAll, {
                                {u"# a▸\n## b▸\n- c▸\n  - d‸\n", u"# a\n## b\n- c\n  - d‸\n"},
                                {u"# a▸▸⟦\nb\n> - c▸⟧\n>\n>   d", u"# a⟦\nb\n> - c⟧\n>\n>   d"},
+                               {u"# a ▸ ▸▸\t▸\n- c▸ ▸\n\n  d‸", u"# a \n- c\n\n  d‸"},
+                               {u"> - a▸\n>         ▸\n>   - b‸", u"> - a\n>   - b‸"},
                                {u"# a ▸ b\n`▸`\n\n▸‸", u""},
                                {u"‸", u""},
                            });
@@ -178,6 +197,46 @@ bool isHidden(const Ondo::Tree& tree, std::int64_t offset) {
     Ondo::Node* const leaf = tree.nodeAtOffset(offset, Ondo::LevelSetting::Leaf);
     const Ondo::Node* const topmost = FoldMarkerNode::topmostFoldedContentHead(leaf);
     return topmost && topmost != leaf->parentBlock();
+}
+
+/// Whether a heading hides an offset. Folding all headings leaves the folds of items as they are.
+bool isHiddenByHeading(const Ondo::Tree& tree, std::int64_t offset) {
+    if (offset == tree.length()) return false;
+    Ondo::Node* const leaf = tree.nodeAtOffset(offset, Ondo::LevelSetting::Leaf);
+    const Ondo::Node* const topmost = FoldMarkerNode::topmostFoldedContentHead(leaf);
+    return topmost && !topmost->parent->parent && isHidden(tree, offset);
+}
+
+/// Notes with folds here and there, and selections of any length.
+TEST(ToggleFold, KeepsSelectionsInTheTextAndInSight) {
+    constexpr std::u16string_view endings[] = {u"▸\n", u"▸ ▸\n", u"\n"};
+    std::int64_t folds = 0;
+    for (std::uint64_t seed = 0; seed < 2500; ++seed) {
+        RandomNote random(seed);
+        std::u16string text = random.note(4);
+        for (std::size_t i = random.below(4); i > 0; --i) {
+            text += u"\n#" + std::u16string(random.below(2), u'#') + u" h";
+            text += Ondo::Test::withComments(endings[random.below(3)]) + random.note(3);
+        }
+        const std::size_t start = random.below(text.size() + 1);
+        const std::size_t end = start + random.below(text.size() + 1 - start);
+        const Ondo::Range range{static_cast<std::int64_t>(start), static_cast<std::int64_t>(end - start)};
+        const Drawn note(text, range);
+        const RuleConfig::RuleSet rules = allRuleSets[seed % 3];
+        SCOPED_TRACE(Ondo::Test::visible(note.drawing()));
+
+        const Drawn folded = behind(foldAll, note, rules);
+        const Ondo::Tree tree(folded.text, rules);
+        if (folded.text != text) {
+            ++folds;
+            EXPECT_FALSE(isHiddenByHeading(tree, folded.selection.offset));
+            EXPECT_FALSE(isHiddenByHeading(tree, folded.selection.end()));
+        }
+        behind(toggle, note, rules);
+        const Drawn open = behind(unfoldAll, folded, rules);
+        EXPECT_EQ(Ondo::Tree(open.text, rules).toIndentedTree().find(u"fold_marker"), std::u16string::npos);
+    }
+    EXPECT_GT(folds, 500);
 }
 
 /// A note without comments that ends in a line feed is restored.

@@ -28,7 +28,8 @@ TEST(ToggleTask, AtACaret) {
                            {u"- [‸ ] a", u"- [x] ‸a"},
                            {u"- ‸[ ] א", u"- ‸[x] א"},
                            {u"- [ ] ‸", u"- [x] ‸"},
-                           {u"- [ ] a\n‸", u"- [x] a\n‸"},
+                           {u"- [ ] a\n‸\n  b", u"- [x] a\n‸\n  b"},
+                           {u"- [ ] a\n‸", u""},
                            {u"- [ ] a\n  b‸\n- [ ] c", u"- [x] a\n  b‸\n- [ ] c"},
                            {u"- [ ] *a **b‸***", u"- [x] *a **b‸***"},
                            {u"> > - [ ] a\n> > - [ ] b‸", u"> > - [ ] a\n> > - [x] b‸"},
@@ -63,6 +64,7 @@ TEST(ToggleTask, InARange) {
                    {u"- [ ] a\n  - [ ] ⟦b\n  - [ ] c⟧", u"- [ ] a\n  - [x] ⟦b\n  - [x] c⟧"},
                    {u"- [ ] a\n  - [ ] x\n  - [ ] ⟦b\n\n  c⟧", u"- [x] a\n  - [ ] x\n  - [x] ⟦b\n\n  c⟧"},
                    {u"- [ ] a\n  - [ ] b\n\n  ⟦c\n- [ ] d⟧", u"- [x] a\n  - [ ] b\n\n  ⟦c\n- [x] d⟧"},
+                   {u"- [ ] a\n⟦\n- [ ] b⟧", u"- [ ] a\n⟦\n- [x] b⟧"},
                    {u"⟦- [ ] a\n  - [ ] b\n\n  c⟧", u"⟦- [x] a\n  - [x] b\n\n  c⟧"},
                });
     expectEach(check, {{u"⟦- [ ] a\n- [x] b\n- c⟧", u"⟦- [x] a\n- [x] b\n- c⟧"}});

@@ -40,7 +40,9 @@ TEST(UpdateLinks, ChangesDestinationsAlone) {
 TEST(UpdateLinks, UrlsThatNeedCare) {
     expectEach(UpdateLinks(u"u", u"tel:+1 (2)"),
                {{u"‸[x](u) [y](<u>)", u"‸[x](<tel:+1 (2)>) [y](<tel:+1 (2)>)"}});
-    expectEach(UpdateLinks(u"u", u"tel:<1>"), {{u"‸[x](u)", u""}});
+    expectEach(UpdateLinks(u"u", u"tel:1\x7F"), {{u"‸[x](u)", u"‸[x](<tel:1\x7F>)"}});
+    for (const std::u16string_view unwritable : {u"tel:<1>", u"tel:+1|2"})
+        expectEach(UpdateLinks(u"u", unwritable), {{u"| ‸[x](u) |\n|-|", u""}});
     expectEach(UpdateLinks(u"u", u""), {{u"‸[x](u)", u""}});
     expectEach(UpdateLinks(u"", u"u"), {{u"‸[x]() [y] [z](<>)", u""}});
     expectEach(UpdateLinks(u" ", u"u"), {{u"‸[x]() [y] [z](<>)", u""}});

@@ -24,7 +24,8 @@ TEST(UpdateWikiLinks, ChangesThePrefix) {
                        {u"[[ A |  *x* ]]‸ [[ab]] [[a\\/c]]", u"[[b|  *x* ]]‸ [[ab]] [[a\\/c]]"},
                        {u"> - x[[a‸]]\r\n>   [[b/a]][[a]]", u"> - x[[b]]‸\r\n>   [[b/a]][[b]]"},
                        {u"‸[[a/]] [[a|]]", u"‸[[b]] [[b]]"},
-                       {u"‸[[a/c/d]] [[/a]] [[]]", u"‸[[b/c\\/d]] [[/a]] [[]]"},
+                       {u"‸[[a/c/d]] [[/a]] [[]]", u"‸[[b/c/d]] [[/a]] [[]]"},
+                       {u"‸[[a/ c\\/[1] &amp; |x]] [[a/ ]]", u"‸[[b/ c\\/[1] &amp; |x]] [[b/ ]]"},
                        {u"‸[a](a) #a `[[a]]` \\[[a]]", u""},
                        {u"---\n[[a]]\n---\n⟦# [[a]]\n\n| [[a]] ⟧|\n|-|",
                         u"---\n[[a]]\n---\n⟦# [[b]]\n\n| [[b]] ⟧|\n|-|"},
@@ -33,6 +34,7 @@ TEST(UpdateWikiLinks, ChangesThePrefix) {
                    rules);
     expectEach(UpdateWikiLinks(u"a", u"b"), {{u"‸[[a]]", u""}}, RuleConfig::Commonmark);
     expectEach(UpdateWikiLinks(u"a/h", u"a/i"), {{u"‸[[a/h|x]] [[a]]", u"‸[[a/i|x]] [[a]]"}});
+    expectEach(UpdateWikiLinks(u"/h", u"/i"), {{u"‸[[/h|x]] [[h]]", u"‸[[/i|x]] [[h]]"}});
     expectEach(UpdateWikiLinks(u"a", u"A"), {{u"‸[[a]] [[A]]", u"‸[[A]] [[A]]"}});
 }
 
@@ -47,6 +49,12 @@ TEST(UpdateWikiLinks, LeavesTheTitle) {
                });
 }
 
+/// Alone the heading has nothing to fold: its comment is HTML.
+TEST(UpdateWikiLinks, InFoldedHeadings) {
+    expectEach(UpdateWikiLinks(u"a", u"b"), {{u"# x [[a]] <!-- {\"fold\":true} -->\n\n[[a]]‸",
+                                              u"# x [[b]] <!-- {\"fold\":true} -->\n\n[[b]]‸"}});
+}
+
 /// In a cell an escaped pipe is the separator of the simplified dialect, and part of the name elsewhere.
 TEST(UpdateWikiLinks, InTables) {
     const std::u16string_view below = u" |\n|-|";
@@ -54,7 +62,7 @@ TEST(UpdateWikiLinks, InTables) {
         return std::u16string(u"| ‸").append(link).append(below);
     };
     expectEach(UpdateWikiLinks(u"a", u"b"), {{row(u"[[a\\|x]]"), row(u"[[b\\|x]]")}}, RuleConfig::Simplified);
-    expectEach(UpdateWikiLinks(u"a", u"b|c"), {{row(u"[[a\\|x]]"), row(u"[[b&vert;c\\|x]]")}},
+    expectEach(UpdateWikiLinks(u"a", u"b|c (&d)"), {{row(u"[[a\\|x]]"), row(u"[[b&vert;c (\\&d)\\|x]]")}},
                RuleConfig::Simplified);
     expectEach(UpdateWikiLinks(u"a|x", u"b|y"), {{row(u"[[a\\|x]]"), row(u"[[b\\|y]]")}});
 }
@@ -71,11 +79,12 @@ TEST(UpdateWikiLinks, NamesThatNeedCare) {
         {u"b & c&d &#1;", u"[[b & c\\&d \\&#1;]]"},
         {u"*b* `c` #d $e$ <f>", u"[[*b* `c` #d $e$ <f>]]"},
         {u"😀 שלום", u"[[😀 שלום]]"},
+        {u" b\t", u"[[b]]"},
         // not to be spelt
-        {u" b", u""},
         {u"b\nc", u""},
         {u"b\r", u""},
         {u"", u""},
+        {u" ", u""},
     };
     for (const auto& each : cases) {
         const std::u16string to = Segments::encode({std::u16string(each.name)});
@@ -85,7 +94,10 @@ TEST(UpdateWikiLinks, NamesThatNeedCare) {
         expectEach(UpdateWikiLinks(to, u"a"), {{after, u"x‸ [[a]]"}});
     }
     expectEach(UpdateWikiLinks(u"", u"b"), {{u"‸[[]] [[/a]]", u""}});
-    expectEach(UpdateWikiLinks(u"a", u"b/c"), {{u"‸[[a]] [[a/d]]", u"‸[[b/c]] [[a/d]]"}});
+    expectEach(UpdateWikiLinks(u"a", u"b /c"), {{u"‸[[a]] [[a/d|x]]", u"‸[[b/c]] [[b/c/d|x]]"}});
+    expectEach(UpdateWikiLinks(u"b/c/d", u"a"), {{u"‸[[b/c/d]] [[b/c]]", u"‸[[a]] [[b/c]]"}});
+    expectEach(UpdateWikiLinks(u"a", u"b/"), {{u"‸[[a|x]]", u"‸[[b/|x]]"}});
+    expectEach(UpdateWikiLinks(u"b/", u"/"), {{u"‸[[b]]", u""}});
 }
 
 /// What was opened before the link would end in the name.
@@ -108,6 +120,11 @@ TEST(UpdateWikiLinks, GuardsNamesFromWhatStandsBefore) {
     }
 }
 
+/// A blank kept the autolink from being one.
+TEST(UpdateWikiLinks, WritesNothingThatIsNoLink) {
+    expectEach(UpdateWikiLinks(u"a b", u"ab"), {{u"‸<xx:[[a b]]> [[a b]]", u"‸<xx:[[a b]]> [[ab]]"}});
+}
+
 TEST(UpdateWikiLinks, Conversions) {
     EXPECT_EQ(UpdateWikiLinks::encodedSegmentsToMarkdownWikiLink(u"a|b/c", u"x"), u"[[a\\|b/c|x]]");
     EXPECT_EQ(UpdateWikiLinks::encodedSegmentsToMarkdownWikiLink(u"a", u""), u"[[a]]");
@@ -117,6 +134,7 @@ TEST(UpdateWikiLinks, Conversions) {
         EXPECT_EQ(UpdateWikiLinks::decodedSegmentsFromMarkdown(markdown), std::u16string(name) + u"/h/i");
     }
     EXPECT_EQ(UpdateWikiLinks::decodedSegmentsFromMarkdown(u""), u"");
+    EXPECT_EQ(UpdateWikiLinks::decodedSegmentsFromMarkdown(u"/h"), u"/h");
 }
 
 /// The tree with what wikilinks lead to, in place of their text.
@@ -138,6 +156,15 @@ std::u16string meaning(const Tree& tree, std::u16string_view from, std::u16strin
     return lines;
 }
 
+std::size_t linkCount(const Tree& tree, std::u16string_view to) {
+    std::size_t count = 0;
+    for (const Ondo::Node* node = tree.root.get(); node; node = node->nextInSequence())
+        if (node->type == Ondo::ONDO_WIKILINK_NODE &&
+            Segments::isPrefix(to, static_cast<const Ondo::Inline::WikilinkNode*>(node)->encodedSegments()))
+            ++count;
+    return count;
+}
+
 TEST(UpdateWikiLinks, ChangesNothingElseAndBack) {
     int renamed = 0;
     for (std::uint64_t seed = 0; seed < 1500; ++seed) {
@@ -152,6 +179,8 @@ TEST(UpdateWikiLinks, ChangesNothingElseAndBack) {
         const RuleConfig::RuleSet rules = allRuleSets[seed % 3];
 
         const Tree tree(note, rules);
+        ASSERT_EQ(UpdateWikiLinks(u"q", u"p").run(tree, 0, 0, 0, 0).size(), linkCount(tree, u"q"))
+            << visible(note);
         const auto results = UpdateWikiLinks(u"q", to).run(tree, 0, 0, 0, 0);
         if (results.empty()) continue;
         ++renamed;
