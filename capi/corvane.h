@@ -552,9 +552,9 @@ enum {
     CORVANE_COMMAND_APPEND_TEXT = 17,               ///< a text; goes before the last tags and the footnotes
     CORVANE_COMMAND_APPEND_TEXT_EXACT = 18,         ///< a text
     CORVANE_COMMAND_PREPEND_TEXT = 19,              ///< a text; goes below the title and its tags
-    CORVANE_COMMAND_UPDATE_WIKI_LINKS = 20, ///< old target, new one, whether to skip the title
-    CORVANE_COMMAND_UPDATE_LINKS_URL = 21, ///< the old URL, the new one
-    CORVANE_COMMAND_REMOVE_LINK_WITH_URL = 22, ///< a URL
+    CORVANE_COMMAND_UPDATE_WIKI_LINKS = 20,         ///< old target, new one, whether to skip the title
+    CORVANE_COMMAND_UPDATE_LINKS_URL = 21,          ///< the old URL, the new one
+    CORVANE_COMMAND_REMOVE_LINK_WITH_URL = 22,      ///< a URL
     CORVANE_COMMAND_INSERT_THEMATIC_BREAK = 23,
     CORVANE_COMMAND_INSERT_TABLE = 24,
     CORVANE_COMMAND_TOGGLE_FOLD = 25,

@@ -34,7 +34,7 @@ std::int64_t lengthOf(std::u16string_view text) {
 
 /// Line endings as line feeds, and without NUL.
 std::u16string cleaned(std::u16string_view text) {
-    const auto results = CVN::Correction::InvalidCharacterCorrection().process(0, 0, text, 0, 0);
+    const auto results = CVN::Correction::InvalidCharacterCorrection::process(0, 0, text, 0, 0);
     return std::u16string(results.empty() ? text : results.front().replacementString);
 }
 
@@ -47,11 +47,11 @@ Keyboard::Keyboard(CVNAST note) : note_(std::move(note)), selection_{note_.markd
 
 // The road of a key that changes text
 
-Keyboard::Effect Keyboard::offer(Correction number, CVNRange range, std::u16string_view text,
+Keyboard::Effect Keyboard::offer(Correction correction, CVNRange range, std::u16string_view text,
                                  CVNRange selection) {
-    const CVNTextCorrection& correction = rowOf(number);
-    const Results results = correction.run(note_, range, text, selection);
-    return results.empty() ? Effect() : apply(correction.name, results);
+    const CVNTextCorrection& row = rowOf(correction);
+    const Results results = row.run(note_, range, text, selection);
+    return results.empty() ? Effect() : apply(row.name, results);
 }
 
 /// The key would replace a range by a text. The corrections are asked before the edit is made, with the

@@ -152,6 +152,7 @@ Span shrunk(const Ondo::Tree& tree, const Span& proposed, const Span& old) {
 std::vector<Result> SelectionCorrection::run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
                                              std::u16string_view replaceString, std::int64_t selectionOffset,
                                              std::int64_t selectionLength) const {
+    // NOLINTNEXTLINE(readability-container-size-empty): the condition is printed as it stands
     CORVANE_ASSERT(replaceString == u"", "SelectionCorrection");
     const Ondo::Range selection = clampedTo(tree.length(), selectionOffset, selectionLength);
     if (selection.length == 0) return {};

@@ -102,7 +102,7 @@ std::u16string_view startOfBlock(const Tree& tree, std::int64_t offset) {
     constexpr std::int64_t longest = 1000;
     const std::u16string_view text = tree.markdownIn({offset, std::min(longest, tree.length() - offset)});
     const std::size_t first = text.find(u'\n');
-    return first == text.npos ? text : text.substr(0, text.find(u'\n', first + 1));
+    return first == std::u16string_view::npos ? text : text.substr(0, text.find(u'\n', first + 1));
 }
 
 /// Whether the block at a place stays what it is below lines that go in there. Lines of a paragraph and items

@@ -101,7 +101,7 @@ std::vector<Result> RenumberFootnotes::run(const Tree& tree, std::int64_t, std::
     }
     for (const LabelEntry& entry : footnotes->definitions()) {
         const auto number = numbers.find(entry.node->label);
-        const bool isPushedOut = number == numbers.end() && taken.count(entry.node->label) > 0;
+        const bool isPushedOut = number == numbers.end() && taken.contains(entry.node->label);
         if (number == numbers.end() && !isPushedOut) continue;
         const Node* const markerNode = entry.node->firstMarker();
         const Node* const labelNode = entry.node->firstAttribute();

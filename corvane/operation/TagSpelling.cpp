@@ -100,7 +100,7 @@ bool isSpelling(std::u16string_view text, std::u16string_view encoded, const Tag
 std::vector<std::u16string> tagSpellings(std::u16string_view encoded, bool isGuarded) {
     std::vector<std::u16string> spellings;
     if (encoded.empty() || static_cast<std::int64_t>(encoded.size()) > longestTag) return spellings;
-    if (encoded.find_first_of(u"\r\n") != encoded.npos) return spellings;
+    if (encoded.find_first_of(u"\r\n") != std::u16string_view::npos) return spellings;
     for (const Escape::When level : {Escape::Always, Escape::IfNeeded, Escape::IfGuarded}) {
         if (isGuarded && level != Escape::IfGuarded) continue;
         const std::u16string text = u'#' + escaped(encoded, level);
