@@ -8,8 +8,8 @@
 namespace CVN::Operation {
 
 /// Adds lines of text below the title and the line of tags of a note, above footnotes that are all there is,
-/// see bodyPlace(). An empty line keeps
-/// apart what would become another block. Nothing happens for an empty text.
+/// see bodyPlace(). An empty line keeps apart what would become another block. Nothing happens for an empty
+/// text.
 ///
 /// The view of the text must outlive the command.
 class CORVANE_EXPORT PrependText : public Operation {

@@ -12,9 +12,9 @@ namespace CVN::Operation {
 ///
 /// Takes all lists that the range touches, whole up to the outermost one. Nothing but digits and indentation
 /// changes, and a second run finds nothing to do, unless a block between two lists came into an item so and
-/// made them one. A number that is right but for zeros in front stays, and so
-/// does one whose successor would be too long for a marker. Results come from the last change to the first;
-/// an empty list when all is in order. Takes time linear in the lists.
+/// made them one. A number that is right but for zeros in front stays, and so does one whose successor would
+/// be too long for a marker. Results come from the last change to the first; an empty list when all is in
+/// order. Takes time linear in the lists.
 class CORVANE_EXPORT RenumberOrderedList : public Operation {
 public:
     std::vector<Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,
