@@ -39,7 +39,7 @@ COMMANDS = {
     "renameTag": ("#work/now and #work‸\n", "work", "job"),
     "escapeTag": ("Text #work‸\n", "work"),
     "appendText": ("# Title‸\n\nText\n\n#work\n", "More"),
-    "appendTextExact": ("Text‸\n", "More"),
+    "appendTextExact": ("Text‸", "More"),
     "prependText": ("# Title‸\n#work\nText\n", "More"),
     "updateWikiLinks": ("See [[Plan]] and [[Plan/Week|week]]‸\n", "Plan", "Old plan", "no"),
     "updateLinksURL": ("![map](my%20map.png)‸\n", "my map.png", "map.png"),

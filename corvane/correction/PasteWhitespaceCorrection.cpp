@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "corvane/correction/EditEdges.h"
+#include "corvane/correction/PastedItemMarkers.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/scan/Go.h"
 
@@ -94,7 +95,7 @@ std::vector<Result> PasteWhitespaceCorrection::run(const Ondo::Tree& tree, std::
                                                    std::int64_t length, std::u16string_view replacement,
                                                    std::int64_t selectionOffset,
                                                    std::int64_t selectionLength) const {
-    if (tree.length() == 0 || replacement.empty()) return {};
+    if (tree.length() == 0 || replacement.empty() || isOnlyItemMarkers(tree, offset, replacement)) return {};
     const std::int64_t end = offset + length;
     const bool startsLine = isLineStart(tree, offset);
     const Node* const left = leafEndingAt(tree, offset);

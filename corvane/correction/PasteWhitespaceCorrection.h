@@ -20,7 +20,8 @@ namespace CVN::Correction {
 ///
 /// Digits and signs of two code units count like any others. A caret moves along with what is put and
 /// dropped; a selection keeps its start and takes in what is put behind that. A text that was corrected is
-/// left alone when it is corrected once more at the same place. No opinion in an empty note.
+/// left alone when it is corrected once more at the same place. No opinion in an empty note, nor on a paste
+/// of nothing but list markers directly behind one.
 class CORVANE_EXPORT PasteWhitespaceCorrection : public Correction {
 public:
     std::vector<Operation::Result> run(const Ondo::Tree& tree, std::int64_t offset, std::int64_t length,

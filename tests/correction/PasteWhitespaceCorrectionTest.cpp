@@ -43,6 +43,11 @@ TEST(PasteWhitespaceCorrection, Edges) {
         {u"a‸b", u"\nword\n", u""},
         {u"- ‸x", u" word\n", u"- word\n‸x"},
         {u"> a‸", u"word", u"> a word‸"},
+        // markers of items alone
+        {u"- ‸", u"- [ ] ", u""},
+        {u"- ‸\n", u"1. - ", u""},
+        {u"- ‸", u"- [ ] x ", u"- - [ ] x‸"},
+        {u"a‸", u"- ", u"a -‸"},
         // punctuation
         {u"(‸)", u" word ", u"(word‸)"},
         {u"a,‸b", u"word", u"a, word ‸b"},
