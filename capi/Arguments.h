@@ -27,6 +27,14 @@ constexpr std::u16string_view view(const corvane_unit* text, std::int64_t length
     return {text, static_cast<std::size_t>(length)};
 }
 
+/// Whether a list of texts is one: it may be null if it has none.
+constexpr bool areTexts(const corvane_text* texts, std::int64_t count) {
+    if (count < 0 || count > maximumLength || (!texts && count > 0)) return false;
+    for (std::int64_t i = 0; i < count; ++i)
+        if (!isText(texts[i].units, texts[i].length)) return false;
+    return true;
+}
+
 constexpr bool isWithin(std::int64_t location, std::int64_t length, std::int64_t total) {
     return location >= 0 && length >= 0 && location <= total && length <= total - location;
 }

@@ -9,11 +9,16 @@
 #include "capi/corvane.h"
 #include "corvane/client/CVNAST.h"
 #include "corvane/client/CVNAttributedString.h"
+#include "corvane/client/CVNTextSummary.h"
 
 /// What the handles of corvane.h point to.
 
 struct corvane_string {
     std::u16string text;
+};
+
+struct corvane_strings {
+    std::vector<std::u16string> texts;
 };
 
 struct corvane_note {
@@ -46,11 +51,29 @@ struct corvane_results {
     explicit corvane_results(CVNASTTextOperations::Results results_);
 };
 
+/// The wikilinks point into the texts of the summary and into the titles.
+struct corvane_summary {
+    CVNTextSummary summary;
+    corvane_strings tags;
+    corvane_strings titles; ///< of the wikilinks, decoded
+    corvane_strings links;
+    std::vector<corvane_wikilink> wikilinks;
+
+    explicit corvane_summary(CVNTextSummary summary_);
+    corvane_summary(const corvane_summary&) = delete;
+    corvane_summary& operator=(const corvane_summary&) = delete;
+};
+
 namespace CApi {
 
 /// Hands a text over to the caller.
 inline corvane_status give(std::u16string text, corvane_string** string) {
     *string = new corvane_string{std::move(text)};
+    return CORVANE_OK;
+}
+
+inline corvane_status give(std::vector<std::u16string> texts, corvane_strings** strings) {
+    *strings = new corvane_strings{std::move(texts)};
     return CORVANE_OK;
 }
 

@@ -40,3 +40,18 @@ int64_t corvane_string_length(const corvane_string* string) {
 void corvane_string_destroy(corvane_string* string) {
     delete string;
 }
+
+int64_t corvane_strings_count(const corvane_strings* strings) {
+    return strings ? std::ssize(strings->texts) : 0;
+}
+
+const corvane_unit* corvane_strings_units(const corvane_strings* strings, int64_t index, int64_t* length) {
+    const bool isThere = index >= 0 && index < corvane_strings_count(strings);
+    const std::u16string* const text = isThere ? &strings->texts[static_cast<std::size_t>(index)] : nullptr;
+    if (length) *length = text ? std::ssize(*text) : 0;
+    return text ? text->c_str() : nullptr;
+}
+
+void corvane_strings_destroy(corvane_strings* strings) {
+    delete strings;
+}

@@ -24,8 +24,9 @@
 /// changes nothing: neither the object nor the places for results. Functions that answer no status say what
 /// they answer for null.
 ///
-/// Threads. An object belongs to one thread at a time. The library starts none, holds no locks, and never
-/// calls back but through callbacks that a function is handed, and before it returns.
+/// Threads. An object belongs to one thread at a time; several threads may work on objects of their own. The
+/// library starts none, holds no locks, and never calls back but through callbacks that a function is handed,
+/// and before it returns.
 ///
 /// Exceptions. None is thrown here, and callbacks may throw none. When memory runs out, the failure of the
 /// C++ library takes its course and is not to be survived.
@@ -92,6 +93,24 @@ CORVANE_API const corvane_unit* corvane_string_units(const corvane_string* strin
 CORVANE_API int64_t corvane_string_length(const corvane_string* string);
 /// Null is allowed.
 CORVANE_API void corvane_string_destroy(corvane_string* string);
+
+/// A text of the caller's, as an element of a list. It is only read during the call.
+typedef struct corvane_text {
+    const corvane_unit* units; ///< may be null if the length is 0
+    int64_t length;
+} corvane_text;
+
+/// A list of texts that the library made.
+typedef struct corvane_strings corvane_strings;
+
+/// 0 for a null list.
+CORVANE_API int64_t corvane_strings_count(const corvane_strings* strings);
+/// The code units of one text, behind which there is a 0 that does not count; good as long as the list. Null
+/// for a null list, and outside of it. `length` may be null.
+CORVANE_API const corvane_unit* corvane_strings_units(const corvane_strings* strings, int64_t index,
+                                                      int64_t* length);
+/// Null is allowed.
+CORVANE_API void corvane_strings_destroy(corvane_strings* strings);
 
 // Notes
 
@@ -495,6 +514,57 @@ CORVANE_API corvane_status corvane_note_footnote_reference_range(const corvane_n
 CORVANE_API corvane_status corvane_note_is_foldable(const corvane_note* note, int64_t index,
                                                     int32_t* is_foldable);
 
+// Summary: what a list of notes shows of one
+
+/// What a note was about when it was asked; the note may change or go meanwhile. Its texts and arrays live as
+/// long as it does.
+typedef struct corvane_summary corvane_summary;
+
+/// A wikilink. A target is its segments with "/" between them, and with a backslash before a "/" or "\" in
+/// one. 40 bytes on wasm32 as on 64-bit machines.
+typedef struct corvane_wikilink {
+    const corvane_unit* target;
+    int64_t target_length;
+    const corvane_unit* title; ///< the first segment as it reads: another note's title; may be empty
+    int64_t title_length;
+    int64_t location; ///< of its "[[", in the text of the note
+} corvane_wikilink;
+
+/// What a note has how many of. 40 bytes.
+typedef struct corvane_summary_counts {
+    int64_t code_blocks; ///< fenced or indented
+    int64_t open_tasks;
+    int64_t done_tasks;
+    /// Stretches of blanks that indent a line inside a list item or quote, with spaces only and with a tab.
+    int64_t space_indented_lines;
+    int64_t tab_indented_lines;
+} corvane_summary_counts;
+
+/// Walks over the whole note.
+CORVANE_API corvane_status corvane_note_summary(const corvane_note* note, corvane_summary** summary);
+/// Null is allowed.
+CORVANE_API void corvane_summary_destroy(corvane_summary* summary);
+
+/// The plain text of the first line that is neither front matter nor blank: at most 500 code units, and empty
+/// if there is none.
+CORVANE_API corvane_status corvane_summary_title(const corvane_summary* summary, const corvane_unit** text,
+                                                 int64_t* length);
+/// The plain text of what follows it, with white space merged and without lines of nothing but tags: at most
+/// 200 code units.
+CORVANE_API corvane_status corvane_summary_subtitle(const corvane_summary* summary, const corvane_unit** text,
+                                                    int64_t* length);
+/// The tags, sorted by code units, each once and with all that it lies in: with "a/b" there is "a". The list
+/// is the summary's: do not destroy it.
+CORVANE_API corvane_status corvane_summary_tags(const corvane_summary* summary, const corvane_strings** tags);
+/// Where links and images lead, in order, each once. The list is the summary's: do not destroy it.
+CORVANE_API corvane_status corvane_summary_links(const corvane_summary* summary,
+                                                 const corvane_strings** links);
+/// All wikilinks, in order. `wikilinks` may become null when there are none.
+CORVANE_API corvane_status corvane_summary_wikilinks(const corvane_summary* summary,
+                                                     const corvane_wikilink** wikilinks, int64_t* count);
+CORVANE_API corvane_status corvane_summary_count(const corvane_summary* summary,
+                                                 corvane_summary_counts* counts);
+
 // Commands and corrections: what keys, menus and buttons of an editor do to a note, of which C++ has the
 // methods in corvane/client/CVNASTTextOperations.h. They change nothing, but answer with replacements and the
 // selection to show then: apply these to the note and to the view. When there are none, they have no opinion,
@@ -749,6 +819,152 @@ CORVANE_API corvane_status corvane_snippet_task(const corvane_unit* text, int64_
 /// three strings, each of which is the caller's.
 CORVANE_API corvane_status corvane_snippet_filename_variants(const corvane_unit* url, int64_t length,
                                                              corvane_string** variants);
+
+// Texts without a note: for lists, search and work on many notes. A text that holds tags or wikilinks is
+// parsed by each call, in the dialect of corvane_set_rule_set(). A byte order mark counts as text, so cut it
+// off before.
+
+/// How much there is to read in a text, markup and all. 12 bytes.
+typedef struct corvane_statistics {
+    uint32_t words;             ///< logograms are words of their own
+    uint32_t paragraphs;        ///< lines that are not empty
+    uint32_t read_time_seconds; ///< at 300 logograms or 250 other words a minute
+} corvane_statistics;
+
+CORVANE_API corvane_status corvane_text_statistics(const corvane_unit* text, int64_t length,
+                                                   corvane_statistics* statistics);
+/// Whether words end at the character at an index: punctuation, white space or a logogram; 0 outside the
+/// text.
+CORVANE_API corvane_status corvane_text_is_word_separator(const corvane_unit* text, int64_t length,
+                                                          int64_t index, int32_t* is_separator);
+/// Whether it is a logogram: a character of Han or kana.
+CORVANE_API corvane_status corvane_text_is_single_character_word(const corvane_unit* text, int64_t length,
+                                                                 int64_t index, int32_t* is_word);
+
+// By what a code point is, words are counted. All three are 0 for a number that is no code point.
+
+/// White space, "-" or U+2213: a word ends there.
+CORVANE_API corvane_status corvane_code_point_is_word_delimiter(uint32_t code_point, int32_t* is_delimiter);
+/// A logogram, CJK punctuation or a full-width form: a word of its own.
+CORVANE_API corvane_status corvane_code_point_is_word_character(uint32_t code_point, int32_t* is_word);
+/// Punctuation: it neither starts nor ends a word.
+CORVANE_API corvane_status corvane_code_point_is_ignorable(uint32_t code_point, int32_t* is_ignorable);
+
+/// How well a text fits a pattern. 16 bytes.
+typedef struct corvane_fuzzy_match {
+    int32_t matched;     ///< a truth: the text has the characters of the pattern in their order
+    int32_t score;       ///< not negative: high for tight and early matches, 0 without one
+    int64_t index_count; ///< without a match: of the characters in front of the missing one
+} corvane_fuzzy_match;
+
+/// Looks for a pattern, as corvane/analysis/FuzzySearch.h describes it. Case counts. `indexes` becomes where
+/// the characters of the pattern stand, ascending; it has room for `pattern_length` numbers, and may be null.
+CORVANE_API corvane_status corvane_fuzzy_search(const corvane_unit* pattern, int64_t pattern_length,
+                                                const corvane_unit* text, int64_t text_length,
+                                                corvane_fuzzy_match* match, int64_t* indexes);
+
+// Tags. The name of a tag is a path as commands take it: its components with "/" between them, and "\" before
+// a "/" or "\" in one.
+
+/// A tag as it is written in text; empty for a name that no tag can have.
+CORVANE_API corvane_status corvane_tag_markdown(const corvane_unit* name, int64_t name_length,
+                                                corvane_string** markdown);
+/// The same for each of a list.
+CORVANE_API corvane_status corvane_tag_markdowns(const corvane_text* names, int64_t name_count,
+                                                 corvane_strings** markdowns);
+/// A name for comparison: without case, diacritics and widths.
+CORVANE_API corvane_status corvane_tag_normalized_name(const corvane_unit* name, int64_t name_length,
+                                                       corvane_string** normalized);
+/// What somebody typed as a name, without what no tag can hold.
+CORVANE_API corvane_status corvane_tag_sanitized_name(const corvane_unit* typed, int64_t typed_length,
+                                                      corvane_string** name);
+CORVANE_API corvane_status corvane_tag_name_from_components(const corvane_text* components,
+                                                            int64_t component_count, corvane_string** name);
+/// Without empty ones.
+CORVANE_API corvane_status corvane_tag_components(const corvane_unit* name, int64_t name_length,
+                                                  corvane_strings** components);
+/// The text with tags added one after the other below its first line, where a line of tags may be already.
+CORVANE_API corvane_status corvane_tag_add_to_top(const corvane_text* names, int64_t name_count,
+                                                  const corvane_unit* text, int64_t text_length,
+                                                  corvane_string** changed);
+/// In the same way at its end, but before its footnotes.
+CORVANE_API corvane_status corvane_tag_add_to_bottom(const corvane_text* names, int64_t name_count,
+                                                     const corvane_unit* text, int64_t text_length,
+                                                     corvane_string** changed);
+/// The text without a component: without "a/b", the tags "#a/b" and "#a/b/c" are "#a". A tag of which nothing
+/// is left goes with the blanks behind it.
+CORVANE_API corvane_status corvane_tag_remove(const corvane_unit* name, int64_t name_length,
+                                              const corvane_unit* text, int64_t text_length,
+                                              corvane_string** changed);
+/// The text with a tag and those below it under another name.
+CORVANE_API corvane_status corvane_tag_rename(const corvane_unit* name, int64_t name_length,
+                                              const corvane_unit* new_name, int64_t new_name_length,
+                                              const corvane_unit* text, int64_t text_length,
+                                              corvane_string** changed);
+/// The text with tags and those below them as plain text.
+CORVANE_API corvane_status corvane_tag_escape(const corvane_text* names, int64_t name_count,
+                                              const corvane_unit* text, int64_t text_length,
+                                              corvane_string** changed);
+
+// Wikilinks. A link's target is a path like a tag's: the title of a note, and behind "/" a header in it.
+
+/// A title as a target.
+CORVANE_API corvane_status corvane_wikilink_encoded_segment(const corvane_unit* title, int64_t title_length,
+                                                            corvane_string** target);
+/// A title as it may stand in "[[...]]".
+CORVANE_API corvane_status corvane_wikilink_encoded_title(const corvane_unit* title, int64_t title_length,
+                                                          corvane_string** encoded);
+/// «[[title|alias]]»; without the pipe where the alias is empty.
+CORVANE_API corvane_status corvane_wikilink_markdown(const corvane_unit* title, int64_t title_length,
+                                                     const corvane_unit* alias, int64_t alias_length,
+                                                     corvane_string** markdown);
+/// «[[title/header]]»
+CORVANE_API corvane_status corvane_wikilink_markdown_with_header(const corvane_unit* title,
+                                                                 int64_t title_length,
+                                                                 const corvane_unit* header,
+                                                                 int64_t header_length,
+                                                                 corvane_string** markdown);
+/// The title of a target, and, if there is one, the header.
+CORVANE_API corvane_status corvane_wikilink_components(const corvane_unit* target, int64_t target_length,
+                                                       corvane_strings** components);
+/// The title of a target; null for an empty target.
+CORVANE_API corvane_status corvane_wikilink_title(const corvane_unit* target, int64_t target_length,
+                                                  corvane_string** title);
+/// Those of a list of targets, of which empty ones have empty titles.
+CORVANE_API corvane_status corvane_wikilink_titles(const corvane_text* targets, int64_t target_count,
+                                                   corvane_strings** titles);
+/// What is written in "[[...]]" without its escapes, in two steps: those of a path, and then those of
+/// brackets, pipes, backslashes and ampersands in what is left. So corvane_wikilink_encoded_title() is not
+/// undone for a title with two backslashes side by side: one comes back.
+CORVANE_API corvane_status corvane_wikilink_decoded(const corvane_unit* written, int64_t written_length,
+                                                    corvane_string** decoded);
+/// The text with the links to a note leading to another, but for those in its title line if `skip_title`.
+CORVANE_API corvane_status corvane_wikilink_update(const corvane_unit* title, int64_t title_length,
+                                                   const corvane_unit* new_title, int64_t new_title_length,
+                                                   int32_t skip_title, const corvane_unit* text,
+                                                   int64_t text_length, corvane_string** changed);
+/// Whether a note's title, found in a text, may be offered as a link: it stands apart from the words around
+/// it, and begins in no tag, link, image, wikilink or "<...>". 0 for a range that is empty or outside the
+/// text. The dialect is always CORVANE_RULES_EXTENDED.
+CORVANE_API corvane_status corvane_wikilink_is_valid_backlink(int64_t location, int64_t length,
+                                                              const corvane_unit* text, int64_t text_length,
+                                                              int32_t* is_valid);
+
+/// Tells how long stretches of work took, one behind the other.
+typedef struct corvane_time_logger corvane_time_logger;
+
+/// Gets a line for a log, which is there until it returns, with the pointer that was handed in for it.
+typedef void (*corvane_line_callback)(void* user, const corvane_unit* line, int64_t length);
+
+/// The first stretch begins now.
+CORVANE_API corvane_status corvane_time_logger_create(corvane_time_logger** logger);
+/// Calls back with "TEXT in Nms", where N has six decimals: how long the stretch took. The next one begins
+/// behind that. The callback must not destroy the logger.
+CORVANE_API corvane_status corvane_time_logger_log(corvane_time_logger* logger, const corvane_unit* text,
+                                                   int64_t length, corvane_line_callback callback,
+                                                   void* user);
+/// Null is allowed.
+CORVANE_API void corvane_time_logger_destroy(corvane_time_logger* logger);
 
 #ifdef __cplusplus
 }

@@ -6,8 +6,9 @@ cmake_minimum_required(VERSION 3.25)
 
 set(layers scan tree block inline client operation correction analysis)
 # These put together what the layers hold.
-set(composing tree/RuleConfig.cpp client/AnnotationRows.cpp client/CVNASTQuery.cpp
-    client/CVNASTTextOperations.cpp client/CVNTextOperation.cpp operation/OperationInsertNewline.cpp)
+set(composing tree/RuleConfig.cpp client/AnnotationRows.cpp client/CVNASTQuery.cpp client/CVNASTSummary.cpp
+    client/CVNASTTextOperations.cpp client/CVNTextOperation.cpp client/CVNTextSummary.cpp
+    operation/OperationInsertNewline.cpp)
 set(forbidden "cassert|format|filesystem|fstream|future|iostream|istream|mutex|ostream|ranges|sstream|thread")
 
 function(fault file line)

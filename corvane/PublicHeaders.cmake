@@ -88,6 +88,7 @@ set(CORVANE_PUBLIC_HEADERS
     client/CVNASTOperationResult.h
     client/CVNASTQuery.h
     client/CVNASTStyling.h
+    client/CVNASTSummary.h
     client/CVNASTTextOperations.h
     client/CVNArchive.h
     client/CVNAttributeName.h
@@ -100,6 +101,8 @@ set(CORVANE_PUBLIC_HEADERS
     client/CVNQuery.h
     client/CVNRange.h
     client/CVNTextOperation.h
+    client/CVNTextSummary.h
+    client/CVNTextSummaryWikiLink.h
     client/CVNValue.h
     client/FilenameMatch.h
     client/OndoString.h
@@ -173,4 +176,12 @@ set(CORVANE_PUBLIC_HEADERS
     correction/PasteLineEndingCorrection.h
     correction/PasteWhitespaceCorrection.h
     correction/SelectionCorrection.h
-    correction/TableSpaceCorrection.h)
+    correction/TableSpaceCorrection.h
+    analysis/CVNFuzzySearch.h
+    analysis/CVNHashtag.h
+    analysis/CVNTextStatistics.h
+    analysis/CVNTimeLogger.h
+    analysis/CVNWikiLink.h
+    analysis/FuzzySearch.h
+    analysis/TextStatistics.h
+    analysis/TreeSummary.h)

@@ -1,5 +1,6 @@
 #include "Arguments.h"
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -145,12 +146,51 @@ void addKeys(CLI::App& app, Options& options) {
     app.add_flag("--check", options.check, "Compare tree and painting with a fresh note's after every key");
 }
 
+void addFiles(CLI::App& app, Options& options) {
+    app.add_option("FILE", options.files, "The notes, in UTF-8; standard input if there is none, or for -")
+        ->type_name("");
+}
+
+void addSummary(CLI::App& app, Options& options) {
+    addFiles(app, options);
+    addRules(app, options);
+}
+
+void addFuzzy(CLI::App& app, Options& options) {
+    app.add_option("PATTERN", options.name, "The letters to look for, in their order")
+        ->type_name("")
+        ->required();
+    app.add_option("FILE", options.file, "The lines, in UTF-8; standard input if it is missing or -")
+        ->type_name("");
+    app.add_flag("--fold", options.fold, "Take letters as equal whatever their case, accents and width");
+    app.add_flag("--json", options.json, "Print one JSON object a line");
+    addChoice(app, "--color", colorChoices, options.colors, "When to highlight what matches");
+    app.get_option("--color")->take_last();
+}
+
+void addVault(CLI::App& app, Options& options) {
+    app.add_option("DIR", options.file, "The folder")->type_name("")->required();
+    app.add_option("ACTION", options.name, "What to do; see below")->type_name("")->required();
+    app.add_option("ARG", options.words, "Its arguments")->type_name("");
+    addRules(app, options);
+    app.add_flag("--dry-run", options.dryRun,
+                 "Print what would change, as a unified diff, and change nothing");
+    app.add_flag("--json", options.json, "Print one JSON object a line; no action that changes notes has it");
+    app.add_option("--jobs", options.jobs,
+                   "How many threads work; if it is missing, one a core, but eight at least for changes")
+        ->type_name("N")
+        ->check(CLI::Range(std::int64_t{1}, std::int64_t{256}).description({}));
+    addChoice(app, "--color", colorChoices, options.colors, "When to highlight what matches");
+    app.get_option("--color")->take_last();
+    app.footer(vaultHelp());
+}
+
 struct CommandRow {
     const char* name;
     const char* about;
     void (*addOptions)(CLI::App&, Options&);
     Outcome (*run)(const Options&);
-    const char* footer;
+    const char* footer; ///< null: addOptions has one
 };
 
 constexpr CommandRow commandRows[] = {
@@ -231,6 +271,47 @@ and with --trace before it, for each key, the line of the script, the key, who a
 
 Example:
   printf 'text:- one\nenter\ntext:two\n' | corvane keys --script -)"},
+    {"summary", "Print what a list of notes shows, one JSON object a note", addSummary, summary,
+     R"(Each note, in the order of the arguments, is one line:
+  {"file":"a.md","title":"...","subtitle":"...","tags":["work","work/now"],"links":["https://..."],
+   "wikiLinks":[{"title":"...","offset":9}],"codeBlockCount":0,"todoCount":2,"doneCount":1,
+   "spaceIndentedLineCount":0,"tabIndentedLineCount":0}
+A tag is #work, #work/now or #two words#; front matter has none. With a tag there are those above it, sorted
+by code units. A wikilink is [[Note]], [[Note/Header]] or [[Note|shown]]; its "title" is the path without what
+is shown, as "Note/Header". [[Note#x]] leads to a note called "Note#x". A "/" that belongs to the name of a
+tag or note is written "\/" there and here. The subtitle leaves out lines of nothing but tags and is cut at
+200. Offsets and lengths count UTF-16 code units, a byte order mark not among them. Files that can't be taken
+are named on standard error; the others are printed all the same, and the exit code is 1.
+
+Example:
+  corvane summary *.md)"},
+    {"stats", "Count words and paragraphs, one JSON object a note", addFiles, stats,
+     R"(Each note, in the order of the arguments, is one line:
+  {"file":"a.md","wordsCount":120,"paragraphCount":9,"readTime":28}
+The text is counted as it is written, with its markup. Words end at white space and hyphens. A paragraph is a
+line that has a character, be it a blank. The time to read is in seconds, rounded down, at 250 words or 300
+Chinese or Japanese characters a minute. Files that can't be taken are named on standard error; the others
+are printed all the same, and the exit code is 1.
+
+Example:
+  corvane stats *.md)"},
+    {"fuzzy", "Find lines by a few of their letters, best first", addFuzzy, fuzzy,
+     R"(Printed are the lines that have all characters of PATTERN in their order, whatever stands between them;
+those that have them close together and near the start come first. Colours show what matches, behind the score
+of the line. Without colours a line is
+  SCORE <tab> OFFSETS <tab> LINE
+where the offsets of the characters that match are joined by commas, as in "26<tab>0,1,2<tab>readme", and with
+--json
+  {"line":1,"score":26,"indexes":[0,1,2],"text":"readme"}
+Offsets count UTF-16 code units from the start of the line. Control characters show as signs, but in JSON.
+The colours of "auto" are used on a terminal, unless NO_COLOR is set in the environment and not empty, or TERM
+is "dumb". The exit code is 0 also when nothing matches. An empty pattern matches nothing; one that begins
+with - stands behind --.
+
+Examples:
+  ls | corvane fuzzy rdm --fold
+  ls | corvane fuzzy rdm --fold | head -1 | cut -f3-)"},
+    {"vault", "Ask and change all notes of a folder", addVault, vault, nullptr},
 };
 
 void addCommands(CLI::App& app, Options& options) {
@@ -246,7 +327,7 @@ don't fit.)");
         CLI::App* const command = app.add_subcommand(row.name, row.about);
         command->group("Commands");
         row.addOptions(*command, options);
-        command->footer(row.footer);
+        if (row.footer) command->footer(row.footer);
     }
 }
 
@@ -262,6 +343,27 @@ void requireCommand(int argc, const char* const* argv) {
     const std::string first = argv[1];
     if (first.rfind('-', 0) != 0 && !findCommand(first))
         throw Failure("there is no command " + first + "; corvane --help lists them", BadUsage);
+}
+
+/// The library takes a word in brackets for a list. A NUL behind it, which no argument holds, hides them.
+std::vector<std::string> wordsFrom(int argc, const char* const* argv) {
+    std::vector<std::string> words;
+    for (int i = argc - 1; i > 0; --i) { // from the last one, as the library wants them
+        words.emplace_back(argv[i]);
+        if (words.back().starts_with('[') && words.back().ends_with(']')) words.back() += '\0';
+    }
+    return words;
+}
+
+void showBrackets(Options& options) {
+    const auto show = [](std::string& word) {
+        if (word.ends_with('\0')) word.pop_back();
+    };
+    for (std::optional<std::string>* const word :
+         {&options.file, &options.script, &options.name, &options.text})
+        if (*word) show(**word);
+    for (std::vector<std::string>* const words : {&options.words, &options.files})
+        std::for_each(words->begin(), words->end(), show);
 }
 
 /// The text that was asked for, with --help or --version; a Failure for what did not fit.
@@ -280,10 +382,11 @@ Outcome runArguments(int argc, const char* const* argv) {
     Options options;
     addCommands(app, options);
     try {
-        app.parse(argc, argv);
+        app.parse(wordsFrom(argc, argv));
     } catch (const CLI::ParseError& error) {
         return answer(app, error);
     }
+    showBrackets(options);
     if (app.get_subcommands().empty())
         throw Failure("a command is missing; corvane --help lists them", BadUsage);
     const CommandRow& command = *findCommand(app.get_subcommands().front()->get_name());

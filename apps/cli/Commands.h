@@ -28,12 +28,17 @@ struct Options {
     std::optional<CVNRange> range;     ///< not negative, but not known to lie in a text
     std::optional<CVNRange> selection; ///< the same
     Colors colors = Colors::Auto;
-    std::optional<std::string> name; ///< of `op` and `correct`
-    std::vector<std::string> words;  ///< of `op`: what stands behind the name
+    std::optional<std::string> name; ///< of `op`, `correct` and `vault`; the pattern of `fuzzy`
+    std::vector<std::string> words;  ///< of `op` and `vault`: what stands behind the name
+    std::vector<std::string> files;  ///< of `summary` and `stats`; none: standard input
     std::optional<std::string> text;
     bool apply = false;
     bool list = false;
     bool trace = false;
+    bool fold = false;
+    bool json = false;
+    bool dryRun = false;
+    std::int64_t jobs = 0; ///< threads; 0: one a core
 };
 
 /// The commands throw a Failure for input that they can't take.
@@ -46,5 +51,12 @@ Outcome type(const Options& options);
 Outcome op(const Options& options);
 Outcome correct(const Options& options);
 Outcome keys(const Options& options);
+Outcome summary(const Options& options);
+Outcome stats(const Options& options);
+Outcome fuzzy(const Options& options);
+Outcome vault(const Options& options);
+
+/// The actions of `vault`, and what they have in common.
+std::string vaultHelp();
 
 } // namespace Cli

@@ -94,4 +94,14 @@ std::u16string readText(const std::string& file) {
     return Ondo::Util::utf16(readUtf8(file));
 }
 
+std::u16string readPlainText(const std::string& file) {
+    return withoutMark(readText(file));
+}
+
+std::u16string withoutMark(std::u16string text) {
+    constexpr char16_t mark = 0xFEFF;
+    if (!text.empty() && text.front() == mark) text.erase(0, 1);
+    return text;
+}
+
 } // namespace Cli

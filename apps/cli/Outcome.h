@@ -11,6 +11,7 @@ struct Outcome {
     std::string output = {};
     std::string complaint = {}; ///< one line for standard error, without its ending
     std::string detail = {};    ///< lines below it
+    std::string remark = {};    ///< one line for standard error that leaves the exit code as it is
 };
 
 enum ExitCode { Success = 0, BadInput = 1, BadUsage = 2 };

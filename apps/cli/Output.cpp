@@ -26,6 +26,12 @@ int writeOutput(const std::string& text) {
     return errno ? errno : EIO;
 }
 
+void writePart(std::string_view text) {
+    errno = 0;
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+        throw OutputError{errno ? errno : EIO};
+}
+
 void complain(std::string message, const std::string& detail) {
     for (std::size_t at = 0; at < message.size(); ++at)
         if (isControl(message[at]) || (at > 0 && isSecondOfControl(message[at - 1], message[at])))

@@ -6,7 +6,7 @@
 namespace Cli {
 
 /// One line about the progress of something long, on standard error, written over again and again. Shows only
-/// when that is a terminal.
+/// when that is a terminal that can do so, and not before a moment has gone by.
 class Progress {
 public:
     explicit Progress(std::string what);
@@ -20,8 +20,9 @@ public:
 
 private:
     std::string what_;
-    bool isShown_;
-    std::int64_t nextShow_ = 0; ///< in milliseconds of the steady clock
+    bool isWanted_;
+    bool isShown_ = false;
+    std::int64_t nextShow_; ///< in milliseconds of the steady clock
 };
 
 } // namespace Cli

@@ -1,11 +1,17 @@
 #include "corvane/analysis/TreeSummary.h"
 
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 
-#include "corvane/inline/Entity.h"
+#include "corvane/block/LinkReferenceDefinition.h"
+#include "corvane/block/List.h"
+#include "corvane/inline/Hashtag.h"
 #include "corvane/inline/LinkBase.h"
-#include "corvane/inline/RawHtml.h"
+#include "corvane/inline/Segments.h"
 #include "corvane/inline/Wikilink.h"
+#include "corvane/operation/DocumentParts.h"
+#include "corvane/operation/OperationIndent.h"
 #include "corvane/scan/Util.h"
 
 namespace CVN {
@@ -14,163 +20,117 @@ namespace {
 
 using namespace Ondo;
 
-/// Whether the link or image around a marker or attribute is a reference without a definition.
-bool isUndefinedReference(const Node* part) {
-    const auto* link = static_cast<const Inline::LinkBaseNode*>(part->maker);
-    return link->isReference && link->connections() == 0;
-}
+/// Walks over all nodes and fills in all but title and subtitle.
+class Gathering {
+public:
+    explicit Gathering(TreeSummary& summary) : tree_(*summary.tree), summary_(summary) {}
 
-bool hasAlias(const Node* part) {
-    return !static_cast<const Inline::WikilinkNode*>(part->maker)->alias.empty();
-}
-
-std::u16string_view source(const Node* rawHtml) {
-    return static_cast<const Inline::RawHtmlNode*>(rawHtml)->text;
-}
-
-/// A line break that a table cell can hold.
-bool isCellBreak(const Node* rawHtml) {
-    return source(rawHtml) == u"<br>";
-}
-
-/// Cells are followed by a pipe and, but for the last one of a text, by something else.
-bool isFollowed(const Node* cell) {
-    return cell->nextSibling && cell->nextSibling->nextSibling;
-}
-
-/// Where a link leads: a part that the reader does not see.
-bool isTarget(const Node* part) {
-    switch (part->type) {
-    case ONDO_IMAGE_LABEL_ATTRIBUTE_NODE:
-    case ONDO_IMAGE_DESTINATION_ATTRIBUTE_NODE:
-    case ONDO_IMAGE_TITLE_ATTRIBUTE_NODE:
-    case ONDO_LINK_LABEL_ATTRIBUTE_NODE:
-    case ONDO_LINK_DESTINATION_ATTRIBUTE_NODE:
-    case ONDO_LINK_TITLE_ATTRIBUTE_NODE:
-        return true;
-    default:
-        return false;
+    void run() {
+        for (Node::Iterator at = tree_.root->begin(); at.node; at.nextInSequence()) {
+            if (at->parent && at->parent->isBlock()) block_ = at->parent;
+            visit(at);
+        }
+        addLinks();
     }
-}
 
-/// Whether a node's text is part of the title as it stands.
-bool isVerbatim(const Node* node) {
-    switch (node->type) {
-    case ONDO_TEXT_NODE:
-        return !isTarget(node->parent) || isUndefinedReference(node->parent);
-    case ONDO_LINK_TEXT_OPEN_MARKER_NODE:
-    case ONDO_LINK_TEXT_CLOSE_MARKER_NODE:
-    case ONDO_LINK_LABEL_OPEN_MARKER_NODE:
-    case ONDO_LINK_LABEL_CLOSE_MARKER_NODE:
-    case ONDO_IMAGE_TEXT_OPEN_MARKER_NODE:
-    case ONDO_IMAGE_TEXT_CLOSE_MARKER_NODE:
-    case ONDO_IMAGE_LABEL_OPEN_MARKER_NODE:
-    case ONDO_IMAGE_LABEL_CLOSE_MARKER_NODE:
-        return isUndefinedReference(node);
-    case ONDO_HASHTAG_OPEN_MARKER_NODE:
-    case ONDO_HASHTAG_SEPARATOR_MARKER_NODE:
-    case ONDO_HASHTAG_CLOSE_MARKER_NODE:
-        return true;
-    case ONDO_WIKILINK_SEPARATOR_MARKER_NODE:
-        return !hasAlias(node);
-    default:
-        return false;
+private:
+    void visit(const Node::Iterator& at) {
+        switch (at->type) {
+        case ONDO_SPACE_NODE:
+            return countIndentation(at);
+        case ONDO_FENCED_CODE_NODE:
+        case ONDO_INDENTED_CODE_NODE:
+            ++summary_.codeBlockCount;
+            return;
+        case ONDO_LIST_ITEM_NODE:
+            return countTask(static_cast<const Block::ListItemNode*>(at.node)->taskType);
+        case ONDO_HASHTAG_NODE:
+            return addTags(static_cast<const Inline::HashtagNode*>(at.node)->segments);
+        case ONDO_IMAGE_NODE:
+        case ONDO_LINK_NODE:
+            links_.push_back(static_cast<const Inline::LinkBaseNode*>(at.node));
+            return;
+        case ONDO_LINK_REFERENCE_DEFINITION_NODE:
+            return addDefinition(static_cast<const Block::LinkReferenceDefinitionNode*>(at.node));
+        case ONDO_WIKILINK_NODE:
+            return addWikiLink(at);
+        default:
+            return;
+        }
     }
-}
 
-/// What stands in the title for a node that is not there as it stands.
-std::u16string substitute(const Node* node, bool isInCell) {
-    switch (node->type) {
-    case ONDO_LINE_ENDING_NODE:
-        return u" ";
-    case ONDO_FOOTNOTE_DEFINITION_COLON_MARKER_NODE:
-    case ONDO_LINK_REFERENCE_DEFINITION_COLON_MARKER_NODE:
-        return u":";
-    case ONDO_TABLE_CELL_NODE:
-        return isFollowed(node) ? u" " : u"";
-    case ONDO_RAW_HTML_NODE:
-        return isInCell && isCellBreak(node) ? u" " : u"";
-    case ONDO_ENTITY_NODE:
-        return static_cast<const Inline::EntityNode*>(node)->toString();
-    default:
-        return {};
+    void countIndentation(const Node::Iterator& space) {
+        const std::u16string_view text = tree_.markdownIn({space.offset, space->charCount});
+        if (Operation::Indent::spaceAsIndentation(space.node, text, block_).second < 1) return;
+        const bool hasTab = text.find(u'\t') != std::u16string_view::npos;
+        ++(hasTab ? summary_.tabIndentedLineCount : summary_.spaceIndentedLineCount);
     }
-}
 
-/// Whether nothing within the node is part of the title.
-bool hidesSubtree(const Node* node, bool isInCell) {
-    switch (node->type) {
-    case ONDO_ENTITY_NODE:
-    case ONDO_FOOTNOTE_REFERENCE_NODE:
-        return true;
-    case ONDO_RAW_HTML_NODE:
-        return (isInCell && isCellBreak(node)) || source(node).starts_with(u"<!-- {");
-    case ONDO_WIKILINK_SEGMENT_ATTRIBUTE_NODE:
-        return hasAlias(node);
-    default:
-        return false;
+    void countTask(Block::List::TaskType type) {
+        if (type == Block::List::TaskType::todo) ++summary_.todoCount;
+        if (type == Block::List::TaskType::done) ++summary_.doneCount;
     }
-}
 
-std::u16string_view textOf(const Tree& tree, const Node::Iterator& at) {
-    return tree.markdownIn({at.offset, at->charCount});
-}
+    void addTags(const std::vector<std::u16string>& segments) {
+        for (std::int64_t count = 1; count <= std::ssize(segments); ++count)
+            summary_.tags.insert(Segments::encodePrefix(segments, count));
+    }
 
-/// Over a hashtag, or over a space or text without a word. False, with the position as it was, for anything
-/// else.
-bool passInTagLine(const Tree& tree, Node::Iterator& at) {
-    constexpr auto isNoWord = Go::eitherOf(Go::unicodeWhitespace, Go::unicodePunctuation);
-    const bool passes = at->type == ONDO_HASHTAG_NODE || at->type == ONDO_SPACE_NODE ||
-                        (at->type == ONDO_TEXT_NODE && Util::trim(textOf(tree, at), isNoWord).empty());
-    if (passes) at.nextInSequenceSkippingSubtree();
-    return passes;
-}
+    void addDefinition(const Block::LinkReferenceDefinitionNode* definition) {
+        urls_.try_emplace(definition->place.group, definition->url);
+    }
 
-/// Moves behind the line of a hashtag if the line holds nothing but hashtags. Otherwise false.
-bool passTagLine(const Tree& tree, Node::Iterator& at) {
-    Node::Iterator line = at;
-    line.beginningOfLine();
-    while (line->category < Node::Category::Inline || line->type == ONDO_SPACE_NODE)
-        line.nextInSequence();
-    while (line.node && line->type != ONDO_LINE_ENDING_NODE)
-        if (!passInTagLine(tree, line)) return false;
-    line.nextInSequence();
-    at = line;
-    return true;
-}
+    void addWikiLink(const Node::Iterator& at) {
+        std::u16string title = static_cast<const Inline::WikilinkNode*>(at.node)->encodedSegments();
+        if (!title.empty()) summary_.wikiLinks.push_back({std::move(title), at.offset});
+    }
 
-/// Without whitespace at the ends, and not longer than `limit`.
-std::u16string finished(std::u16string_view text, std::int64_t limit) {
-    text = Util::trim(text, Go::unicodeWhitespace).substr(0, static_cast<std::size_t>(limit));
-    const bool isFull = static_cast<std::int64_t>(text.size()) == limit;
-    if (isFull && (text.back() & 0xFC00) == 0xD800) text.remove_suffix(1);
-    return std::u16string(text);
+    /// As LinkBaseNode::destination(), which looks for a definition and copies what that says. The second
+    /// time that a reference asks, it is empty.
+    std::u16string_view takeDestination(const Inline::LinkBaseNode* link) {
+        if (link->label.empty()) return link->ownDestination;
+        const auto url = urls_.find(link->place.group);
+        return url == urls_.end() ? std::u16string_view() : std::exchange(url->second, {});
+    }
+
+    void addLinks() {
+        std::unordered_set<std::u16string_view> seen;
+        for (const Inline::LinkBaseNode* link : links_) {
+            const std::u16string_view destination = takeDestination(link);
+            if (!destination.empty() && seen.insert(destination).second)
+                summary_.links.emplace_back(destination);
+        }
+    }
+
+    const Tree& tree_;
+    TreeSummary& summary_;
+    const Node* block_ = nullptr; ///< the innermost one around the node
+    std::vector<const Inline::LinkBaseNode*> links_;
+    std::unordered_map<const LabelGroup*, std::u16string_view> urls_; ///< of each label's first definition
+};
+
+void addTitles(TreeSummary& summary, const Node::Iterator& begin) {
+    const Tree& tree = *summary.tree;
+    Node::Iterator end = begin;
+    end.endOfLine();
+    const bool isOnlyLine = end->type != ONDO_LINE_ENDING_NODE;
+    summary.title = TreeSummary::normalizedTitle(tree, begin, isOnlyLine ? tree.length() : end.offset,
+                                                 TreeSummary::titleLimit);
+    if (isOnlyLine) return;
+    end.nextInSequence();
+    summary.subtitle = Util::mergeTrimUnicodeWhitespace(
+        TreeSummary::normalizedTitle(tree, end, tree.length(), TreeSummary::subtitleLimit));
 }
 
 } // namespace
 
-std::u16string TreeSummary::normalizedTitle(const Tree& tree, Node::Iterator begin, std::int64_t end,
-                                            std::int64_t limit) {
-    CORVANE_ASSERT(limit > 0, "TreeSummary");
-    std::u16string text;
-    std::int64_t lineWithWords = -1; // the last one that was found to be no tag line
-    std::int64_t cellEnd = 0;        // of the last table cell
-    Node::Iterator at = begin;
-    while (at.node && at.offset < end && static_cast<std::int64_t>(text.size()) < limit) {
-        if (limit == subtitleLimit && at->type == ONDO_HASHTAG_NODE && at.line != lineWithWords) {
-            if (passTagLine(tree, at)) continue;
-            lineWithWords = at.line;
-        }
-        if (at->type == ONDO_TABLE_CELL_NODE) cellEnd = at.end();
-        const bool isInCell = at.offset < cellEnd;
-        if (isVerbatim(at.node)) text += textOf(tree, at);
-        text += substitute(at.node, isInCell);
-        if (hidesSubtree(at.node, isInCell))
-            at.nextInSequenceSkippingSubtree();
-        else
-            at.nextInSequence();
-    }
-    return finished(text, limit);
+TreeSummary::TreeSummary(const Tree& note) : tree(&note) {
+    Node::Iterator block(Operation::firstContentBlock(note));
+    if (!block.node) return;
+    Gathering(*this).run();
+    while (block.node && block->type == ONDO_BLANK_LINE_NODE)
+        block.nextSibling();
+    if (block.node) addTitles(*this, block);
 }
 
 } // namespace CVN

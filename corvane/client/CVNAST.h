@@ -9,6 +9,7 @@
 #include "corvane/client/CVNASTNode.h"
 #include "corvane/client/CVNASTQuery.h"
 #include "corvane/client/CVNASTStyling.h"
+#include "corvane/client/CVNASTSummary.h"
 #include "corvane/client/CVNASTTextOperations.h"
 #include "corvane/client/CVNRange.h"
 #include "corvane/tree/ReplaceBatch.h"
@@ -19,11 +20,12 @@
 ///
 /// Offsets and lengths count UTF-16 code units. One object belongs to one thread at a time. What is built on
 /// top comes in families, each a base class with a header of its own that has no data: CVNASTAnnotation
-/// styles a range, CVNASTQuery asks the tree, CVNASTStyling widens ranges, CVNASTTextOperations makes
-/// snippets.
+/// styles a range, CVNASTQuery asks the tree, CVNASTStyling widens ranges, CVNASTSummary tells what a list of
+/// notes shows, CVNASTTextOperations has the commands and makes snippets.
 class CORVANE_EXPORT CVNAST : public CVNASTAnnotation,
                               public CVNASTQuery,
                               public CVNASTStyling,
+                              public CVNASTSummary,
                               public CVNASTTextOperations {
 public:
     /// Set it with setParseInlinesOnly().

@@ -50,7 +50,10 @@ std::int64_t Segments::segmentCount(std::u16string_view path) {
 }
 
 bool Segments::isPrefix(std::u16string_view prefix, std::u16string_view path) {
-    const std::u16string foldedPrefix = Util::downcaseUnicode(prefix);
+    return isFoldedPrefix(Util::downcaseUnicode(prefix), path);
+}
+
+bool Segments::isFoldedPrefix(std::u16string_view foldedPrefix, std::u16string_view path) {
     const std::u16string foldedPath = Util::downcaseUnicode(path);
     if (!foldedPath.starts_with(foldedPrefix)) return false;
     return foldedPath.size() == foldedPrefix.size() || foldedPath[foldedPrefix.size()] == u'/';

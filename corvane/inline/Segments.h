@@ -22,6 +22,8 @@ public:
     static std::int64_t segmentCount(std::u16string_view path);
     /// Whether a path begins with the segments of another, or is the same, case folded. Both are encoded.
     static bool isPrefix(std::u16string_view prefix, std::u16string_view path);
+    /// The same for a prefix that Util::downcaseUnicode() folded before: to compare many paths with one.
+    static bool isFoldedPrefix(std::u16string_view foldedPrefix, std::u16string_view path);
     /// Puts `newPrefix` in the place of as many segments as `oldPrefix` has, whichever those are. All are
     /// encoded.
     static std::u16string replacePrefix(std::u16string_view path, std::u16string_view oldPrefix,

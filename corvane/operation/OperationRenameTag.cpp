@@ -10,9 +10,9 @@ std::vector<Result> RenameTag::run(const Ondo::Tree& tree, std::int64_t, std::in
     std::vector<Result> results;
     if (encodedSegmentsToMarkdown(to_).empty()) return results;
     forEachTag(tree, from_, [&](const Ondo::Node::Iterator& at) {
-        const auto* const tag = static_cast<const Ondo::Inline::HashtagNode*>(at.node);
-        const std::u16string path = Ondo::Segments::replacePrefix(tag->encodedSegments(), from_, to_);
-        if (path == tag->encodedSegments()) return;
+        const std::u16string old = static_cast<const Ondo::Inline::HashtagNode*>(at.node)->encodedSegments();
+        const std::u16string path = Ondo::Segments::replacePrefix(old, from_, to_);
+        if (path == old) return;
         const std::u16string text = encodedSegmentsToMarkdown(tree, at, path);
         if (text.empty()) return;
         Result::addToList(results, at.offset, at->charCount, text, selectionOffset, selectionLength);

@@ -15,6 +15,11 @@ using Ondo::Tree;
 
 namespace {
 
+/// The path that the tree has for a tag of that name.
+std::u16string canonical(std::u16string_view encoded) {
+    return Ondo::Segments::encode(Ondo::Segments::decode(encoded));
+}
+
 /// Up to which length a block is parsed on trial, in code units.
 constexpr std::int64_t longestTrial = 4000;
 
@@ -57,7 +62,7 @@ bool comesOut(const Tree& tree, const Node::Iterator& block, const Replacement& 
 
 /// The plainest text that is the tag in its place; empty when there is none.
 std::u16string markdownIn(const Tree& tree, const Replacement& replacement, std::u16string_view encoded) {
-    const std::u16string path = Ondo::Segments::encode(Ondo::Segments::decode(encoded));
+    const std::u16string path = canonical(encoded);
     const bool isInDoubt =
         isClosing(path) && tree.length() > 0 && tree.ruleConfig().ruleInstanceByName("Hashtag");
     const Node::Iterator block =
@@ -104,13 +109,17 @@ bool isUntypable(char16_t c) {
 
 } // namespace
 
-bool TagBase::isMatch(const Node* node, std::u16string_view tag) {
-    return Ondo::Segments::isPrefix(tag,
-                                    static_cast<const Ondo::Inline::HashtagNode*>(node)->encodedSegments());
+std::u16string TagBase::foldedPath(std::u16string_view tag) {
+    return Ondo::Util::downcaseUnicode(canonical(tag));
+}
+
+bool TagBase::isMatch(const Node* node, std::u16string_view folded) {
+    const auto* const tag = static_cast<const Ondo::Inline::HashtagNode*>(node);
+    return Ondo::Segments::isFoldedPrefix(folded, tag->encodedSegments());
 }
 
 std::u16string TagBase::encodedSegmentsToMarkdown(std::u16string_view encoded) {
-    const std::u16string path = Ondo::Segments::encode(Ondo::Segments::decode(encoded));
+    const std::u16string path = canonical(encoded);
     for (std::u16string& text : tagSpellings(path, false)) {
         forceDoubleMarkerIfNeededDueToTrailingText(text, path, {});
         if (isSpelling(text, path, {})) return text;

@@ -18,8 +18,8 @@ inline bool isInTag(const Ondo::Node* leaf) {
 /// What the commands on tags share: which tags a name means, and how a name is written.
 ///
 /// A tag is named by its encoded path, see Ondo::Segments. A name means the tag of that path and all tags
-/// below it, whatever their case. The commands work on the whole note: the range that run() is given doesn't
-/// count.
+/// below it, whatever their case; a backslash in it that escapes nothing stands for itself. The commands work
+/// on the whole note: the range that run() is given doesn't count.
 class CORVANE_EXPORT TagBase : public Operation {
 public:
     /// The text of a tag, markers included: the plainest one that parses as that tag when it stands alone.
@@ -56,13 +56,16 @@ protected:
     template <class Visit>
     static void forEachTag(const Ondo::Tree& tree, std::u16string_view tag, Visit visit) {
         if (tag.empty()) return;
+        const std::u16string folded = foldedPath(tag);
         Ondo::Node::Iterator at = tree.root->begin();
         for (at.lastNodeOfSubtree(); at.node; at.previousInSequence())
-            if (isOfType(at.node, Ondo::ONDO_HASHTAG_NODE) && isMatch(at.node, tag)) visit(at);
+            if (isOfType(at.node, Ondo::ONDO_HASHTAG_NODE) && isMatch(at.node, folded)) visit(at);
     }
 
 private:
-    static bool isMatch(const Ondo::Node* node, std::u16string_view tag);
+    /// A name as the tree would have it, folded.
+    static std::u16string foldedPath(std::u16string_view tag);
+    static bool isMatch(const Ondo::Node* node, std::u16string_view folded);
 };
 
 } // namespace CVN::Operation

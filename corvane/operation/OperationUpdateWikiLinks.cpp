@@ -163,11 +163,12 @@ void Renaming::addBlock(const Node::Iterator& block, std::int64_t start, std::ve
 
 std::vector<Link> Renaming::linksIn(const Node::Iterator& block, std::int64_t start) const {
     const std::int64_t fromCount = Segments::segmentCount(from_);
+    const std::u16string folded = Ondo::Util::downcaseUnicode(from_);
     std::vector<Link> links;
     for (Node::Iterator at = block; at.node && at.offset < block.end(); at.nextInSequence()) {
         if (at->type != Ondo::ONDO_WIKILINK_NODE || at.offset < start) continue;
         const std::u16string old = static_cast<const WikilinkNode*>(at.node)->encodedSegments();
-        if (!Segments::isPrefix(from_, old)) continue;
+        if (!Segments::isFoldedPrefix(folded, old)) continue;
         std::u16string target = canonical(Segments::replacePrefix(old, from_, to_));
         if (target != canonical(old))
             links.push_back({at.offset, at->charCount, std::move(target), restOf(tree_, at, fromCount == 1)});

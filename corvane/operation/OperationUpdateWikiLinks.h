@@ -33,7 +33,8 @@ public:
     /// An encoded target as it is written in a wikilink: with a backslash before each "[", "]" and "|", and
     /// before an "&" that could begin an entity.
     static std::u16string encodedSegmentsToMarkdown(std::u16string_view encoded);
-    /// The reverse, with plain "/" between the segments.
+    /// The reverse, with plain "/" between the segments, but for backslashes: two side by side come back as
+    /// one.
     static std::u16string decodedSegmentsFromMarkdown(std::u16string_view encoded);
 
 private:

@@ -24,7 +24,17 @@ constexpr const char16_t* sharedName(std::uint16_t type) {
     return names[type];
 }
 
+/// Slots of an arena lie at multiples of 16; what lies 8 behind one is the heap's. So a node need not say
+/// where its memory goes back to.
 constexpr std::size_t heapOffset = 8;
+
+template <void (*FreeSlot)(void*)>
+void giveBack(Node* node) {
+    auto* const memory = reinterpret_cast<std::byte*>(node);
+    if (reinterpret_cast<std::uintptr_t>(memory) % NodeArena::granularity == 0) return FreeSlot(memory);
+    Node::instanceCount.fetch_sub(1, std::memory_order_relaxed);
+    ::operator delete(memory - heapOffset);
+}
 
 FirstLevelIndex& indexOf(const Node* document) {
     return static_cast<const DocumentNode*>(document)->index;
@@ -36,26 +46,21 @@ bool isDocument(const Node* node) {
 
 } // namespace
 
-std::int64_t Node::instanceCount = 0;
+constinit std::atomic<std::int64_t> Node::instanceCount = 0;
 
 const char16_t* nodeName(std::uint16_t type) {
     return sharedName(type);
 }
 
-/// Slots of an arena lie at multiples of 16; what lies 8 behind one is the heap's. So a node need not say
-/// where its memory goes back to.
 void* Node::operator new(std::size_t size) {
     if (void* const slot = NodeArena::allocate(size)) return slot;
+    instanceCount.fetch_add(1, std::memory_order_relaxed);
     return static_cast<std::byte*>(::operator new(size + heapOffset)) + heapOffset;
 }
 
 void Node::operator delete(Node* node, std::destroying_delete_t) {
     node->~Node();
-    auto* const memory = reinterpret_cast<std::byte*>(node);
-    if (reinterpret_cast<std::uintptr_t>(memory) % NodeArena::granularity == 0)
-        NodeArena::free(memory);
-    else
-        ::operator delete(memory - heapOffset);
+    giveBack<NodeArena::freeRoot>(node);
 }
 
 Node::~Node() {
@@ -67,10 +72,10 @@ Node::~Node() {
             child->firstChild = nullptr;
         }
         Node* const next = child->nextSibling;
-        delete child;
+        child->~Node();
+        giveBack<NodeArena::free>(child);
         child = next;
     }
-    --instanceCount;
 }
 
 std::u16string Node::toIndentedTree() const {

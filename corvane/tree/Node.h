@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -38,9 +39,10 @@ public:
     using Category = NodeCategory;
     class Iterator;
 
-    /// Nodes alive in the process, for finding leaks. Not atomic: trees that are built at the same time on
-    /// different threads miscount.
-    static std::int64_t instanceCount;
+    /// Nodes alive in the process, for finding leaks, on whichever threads they were made and deleted. Exact
+    /// whenever no tree is at work and none holds nodes of another: the nodes of an arena are counted when
+    /// its scope ends, those of a deleted subtree when its root goes. What lies on the stack is not counted.
+    static std::atomic<std::int64_t> instanceCount;
 
     const std::uint16_t type;
     const Category category;
@@ -73,7 +75,6 @@ public:
         CORVANE_ASSERT(charCount >= 0, "Node");
         CORVANE_ASSERT(lineWhenParsed >= 0, "Node");
         CORVANE_ASSERT(lineCount >= 0, "Node");
-        ++instanceCount;
     }
     /// Deletes the subtree, without recursion.
     virtual ~Node();

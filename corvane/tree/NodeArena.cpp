@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "corvane/scan/Assert.h"
+#include "corvane/tree/Node.h"
 
 namespace Ondo {
 
@@ -12,7 +13,10 @@ namespace {
 
 /// Chunks lie at multiples of their size, so that a slot finds its chunk.
 constexpr std::size_t chunkSize = 16 * 1024;
-constexpr std::size_t largestSlab = 7; ///< in chunks
+/// In chunks. With what its alignment costs, a slab stays below the 128 KB from which on a heap may take
+/// memory from the system each time anew, and hand it back: page faults, in which threads wait for one
+/// another.
+constexpr std::size_t largestSlab = 6;
 
 constinit thread_local NodeArena* current = nullptr;
 
@@ -91,12 +95,13 @@ NodeArena::Scope::Scope(NodeArena& arena)
     : outer_(std::exchange(current, isSanitized() ? nullptr : &arena)) {}
 
 NodeArena::Scope::~Scope() {
+    if (current) current->count();
     current = outer_;
 }
 
 void NodeArena::Release::operator()(NodeArena* arena) const {
     arena->isReleased_ = true;
-    if (arena->liveCount_ == 0) delete arena;
+    arena->endIfUnused();
 }
 
 NodeArena::Owner NodeArena::make() {
@@ -104,6 +109,7 @@ NodeArena::Owner NodeArena::make() {
 }
 
 NodeArena::~NodeArena() {
+    count();
     while (slabs_)
         removeSlab(slabs_);
 }
@@ -114,7 +120,17 @@ void* NodeArena::allocate(std::size_t size) {
 
 void NodeArena::free(void* memory) {
     Chunk* const chunk = Chunk::of(memory);
-    chunk->arena->put(chunk, memory);
+    NodeArena* const arena = chunk->arena;
+    arena->put(chunk, memory);
+    arena->endIfUnused();
+}
+
+void NodeArena::freeRoot(void* memory) {
+    Chunk* const chunk = Chunk::of(memory);
+    NodeArena* const arena = chunk->arena;
+    arena->put(chunk, memory);
+    if (current != arena) arena->count();
+    arena->endIfUnused();
 }
 
 void* NodeArena::take(std::size_t sizeClass) {
@@ -137,7 +153,18 @@ void NodeArena::put(Chunk* chunk, void* memory) {
         withdraw(chunk);
         putChunk(chunk, chunk->slab);
     }
-    if (--liveCount_ == 0 && isReleased_) delete this;
+    --liveCount_;
+}
+
+void NodeArena::endIfUnused() {
+    if (liveCount_ == 0 && isReleased_) delete this;
+}
+
+/// Threads wait for one another at an atomic, which therefore is not touched for each node.
+void NodeArena::count() {
+    if (liveCount_ == countedCount_) return;
+    Node::instanceCount.fetch_add(liveCount_ - countedCount_, std::memory_order_relaxed);
+    countedCount_ = liveCount_;
 }
 
 void NodeArena::addChunk(std::size_t sizeClass) {

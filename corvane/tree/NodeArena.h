@@ -11,11 +11,12 @@ namespace Ondo {
 /// The memory of the nodes of one tree.
 ///
 /// Nodes that are made together lie together, which is what parsing and walking spend their time on. A tree
-/// belongs to one thread at a time, and so does its arena; different trees share nothing. Nodes that are made
-/// outside any Scope come from the heap, and under AddressSanitizer all do, so that it sees each of them.
+/// belongs to one thread at a time, and so does its arena; different trees share nothing but the count of all
+/// nodes, to which an arena adds what has come and gone in one sum. Nodes that are made outside any Scope
+/// come from the heap, and under AddressSanitizer all do, so that it sees each of them.
 class CORVANE_EXPORT NodeArena {
 public:
-    /// Lets the nodes that are made on this thread come from an arena.
+    /// Lets the nodes that are made on this thread come from an arena. They are counted when it ends.
     class CORVANE_EXPORT Scope {
     public:
         explicit Scope(NodeArena& arena);
@@ -38,6 +39,8 @@ public:
     /// Memory from the arena of the innermost scope, at a multiple of the granularity; null outside of any.
     static void* allocate(std::size_t size);
     static void free(void* memory);
+    /// Outside of a scope of the arena, counts too: to be called for the last node of a subtree that goes.
+    static void freeRoot(void* memory);
 
 private:
     struct Chunk;
@@ -51,6 +54,8 @@ private:
 
     void* take(std::size_t sizeClass);
     void put(Chunk* chunk, void* memory);
+    void count();
+    void endIfUnused();
     void addChunk(std::size_t sizeClass);
     void offer(Chunk* chunk);
     void withdraw(Chunk* chunk);
@@ -65,6 +70,7 @@ private:
     std::size_t freeChunkCount_ = 0;
     std::size_t slabSize_ = 1; ///< of the next slab, in chunks: they grow with the tree
     std::int64_t liveCount_ = 0;
+    std::int64_t countedCount_ = 0; ///< of these, what Node::instanceCount holds
     bool isReleased_ = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,8 +20,23 @@ struct ReparseRanges;
 /// Rules keep no state from one parse to the next, but for the label indexes of the definition rules.
 class CORVANE_EXPORT RuleBase {
 public:
-    /// Rules alive in the process, for finding leaks. Not atomic.
-    static std::int64_t instanceCount;
+    /// Lets the rules that come and go on this thread be counted together, when it ends: a tree has dozens,
+    /// and threads wait for one another at the counter.
+    class CORVANE_EXPORT Batch {
+    public:
+        Batch();
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        std::int64_t* outer_;
+        std::int64_t count_ = 0;
+    };
+
+    /// Rules alive in the process, for finding leaks, on whichever threads they were made and deleted. Exact
+    /// but for open batches.
+    static std::atomic<std::int64_t> instanceCount;
 
     /// The characters that may start a match, all below 128; empty: the rule is tried at every position.
     const std::u16string triggers;

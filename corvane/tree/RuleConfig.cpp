@@ -259,6 +259,7 @@ bool removeFrom(Map& map, std::string_view name) {
 } // namespace
 
 RuleConfig::RuleConfig(RuleSet ruleSet) : referencesNeedDefinitions(ruleSet == Commonmark) {
+    const RuleBase::Batch batch;
     const Sets set = in(ruleSet);
     const Shared shared{std::make_shared<Block::LinkReferenceDefinition>(),
                         std::make_shared<Block::FootnoteDefinition>(), Inline::LinkBase::makeOpenerStack()};
@@ -294,8 +295,12 @@ RuleConfig::~RuleConfig() {
 
 /// Rules end each other, so that their terminating rules hold pointers in a circle.
 void RuleConfig::releaseRules() {
+    const RuleBase::Batch batch;
     for (const auto& rule : blockRules.getAllBlockRules())
         rule->terminatingRules.clear();
+    blockRules.clear();
+    inlineRules.clear();
+    attributeRules.clear();
 }
 
 std::shared_ptr<RuleBase> RuleConfig::ruleInstanceByName(std::string_view name) const {

@@ -49,18 +49,23 @@ TEST(NormalizedTitle, OfConstructs) {
         {u"[a][b]\n\n[b]: /c\n", u"a  b:/c"},
         {u"![a]\n\n[a]: /c 'd'\n", u"a  a:/cd"},
         {u"[a][b] [c][] ![d]", u"[a][b] [c][] ![d]"},
+        {u"[a](b&amp;\\*c 'd&lt;e\nf') ![g](<h&gt;\\>>)", u"a g"},
+        {u"[a][b&amp;\\*]", u"[a][b&*]"},
+        {u"[a][b&amp;\\*]\n\n[b&amp;\\*]: c\n", u"a  b&*:c"},
+        {u"[![a] b *c*](d 'e')", u"![a] b c"},
         {u"<http://a.b> http://c.d", u"http://a.b http://c.d"},
         {u"a[^1]\n\n[^1]: b\n", u"a  1:b"},
         {u"[[x|y]] [[x/z]] [[x/z|y]] [[x|]]", u"y x/z y x"},
         {u"#a/b #c d# e", u"#a/b #c d# e"},
-        // Entities and HTML, of which only comments with data and line breaks of cells are known
+        // Entities, and HTML, of which nothing is shown
         {u"&amp;&#x41;&#0;", u"&A\uFFFD"},
-        {u"a<br>b <i>c</i>", u"a<br>b <i>c</i>"},
-        {u"[a](b)<!-- {\"preview\":\"true\"} --> c <!-- d -->", u"a c <!-- d -->"},
+        {u"a<br>b <i c='d\ne'>f</i>", u"ab f"},
+        {u"[a](b)<!-- {\"preview\":\"true\"} --> c <!-- d -->", u"a c"},
         {u"# a <!-- {\"fold\":true} -->\nb\n", u"a  b"},
         // Cells
         {u"| a<br>b | c |\n|---|---|\n| d | e |\n", u"a b c   d e"},
-        {u"|a<BR>|b|\n|---|---|\n", u"a<BR> b"},
+        {u"|a<BR>b|c|\n|---|---|\n", u"ab c"},
+        {u"|a|b|\n|-|-|\n|c|d|", u"a b   c d"},
     });
 }
 
@@ -78,6 +83,19 @@ TEST(NormalizedTitle, StopsAtItsEnd) {
     EXPECT_EQ(
         TreeSummary::normalizedTitle(tree, Node::Iterator(tree.root->lastChild), tree.length(), noLimit),
         u"d");
+}
+
+TEST(NormalizedTitle, StartsBehindWhatItStartsIn) {
+    const std::u16string notes[] = {u"a <!-- b\nc\nd --> e", u"a <b c='\nd'> e", u"[a](b 'c\nd\\*\n&lt;') e",
+                                    u"[a][b\nc] e\n\n[b c]: d"};
+    for (const std::u16string& note : notes) {
+        const Tree tree(note);
+        Node::Iterator behindLine(tree.root->firstChild);
+        behindLine.endOfLine();
+        behindLine.nextInSequence();
+        const std::int64_t end = tree.root->firstChild->charCount;
+        EXPECT_EQ(utf8(TreeSummary::normalizedTitle(tree, behindLine, end, noLimit)), "e") << utf8(note);
+    }
 }
 
 TEST(NormalizedTitle, HasALimit) {
@@ -100,7 +118,7 @@ TEST(NormalizedTitle, HasALimit) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(title(c.note, c.limit), c.expected) << utf8(c.note) << ", at most " << c.limit;
-    EXPECT_DEATH(title(u"a", 0), "limit > 0.*normalizedTitle.*TreeSummary|TreeSummary.*limit > 0");
+    EXPECT_DEATH(title(u"a", 0), "limit > 0.*normalizedTitle.*TreeSummary");
 }
 
 TEST(NormalizedTitle, OfASubtitleHasNoTagLines) {
@@ -109,6 +127,9 @@ TEST(NormalizedTitle, OfASubtitleHasNoTagLines) {
             {u"a\n#b #c/d\ne\n", u"a e"},
             {u"#b, (#c) – \u3000#d! \ne", u"e"},
             {u"  #b\n\n#c", u""},
+            {u"a\n(#b, #c)\nd", u"a d"}, // what stands before the first tag goes, too
+            {u"a\n\u2013 #b\n(#c) d", u"a (#c) d"},
+            {u"(\n#b)\nc", u"( c"},
             {u"#b c# \nd", u"d"},
             {u"a #b\n", u"a #b"},
             {u"#b a #c\n", u"#b a #c"},

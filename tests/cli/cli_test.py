@@ -9,6 +9,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import threading
 import unittest
 from pathlib import Path
 
@@ -645,13 +646,28 @@ class Typing(CommandTest):
             with self.subTest(rules=rules):
                 self.assert_holds(self.type(WELCOME.read_text(), "--every", "1", "--check", "--rules", rules))
 
-    def test_progress_shows_on_a_terminal_alone(self):
-        primary, terminal = pty.openpty()
-        self.addCleanup(os.close, primary)
-        result = subprocess.run([COMMAND, "type"], input=b"abc", stdout=subprocess.PIPE, stderr=terminal, timeout=60)
-        os.close(terminal)
-        self.assertTrue(result.stdout.startswith(b"keystrokes: 5\n"))
-        self.assertIn(b"\rtyping 1 of 3", os.read(primary, 1000))
+    def test_progress_of_what_takes_time_shows_on_a_terminal(self):
+        long = b"a b\n\n" * 500
+        for note, terminal_kind, is_shown in [(long, "xterm", True), (long, "dumb", False), (b"abc", "xterm", False)]:
+            with self.subTest(size=len(note), terminal=terminal_kind):
+                primary, terminal = pty.openpty()
+                shown = bytearray()
+
+                def read_to_bar():
+                    while not shown.endswith(b"|"):
+                        shown.extend(os.read(primary, 100_000))
+
+                reader = threading.Thread(target=read_to_bar, daemon=True)
+                reader.start()  # a terminal holds only a few kilobytes
+                result = subprocess.run([COMMAND, "type", "--check"], input=note, stdout=subprocess.PIPE, stderr=terminal,
+                                        timeout=200, env={**os.environ, "TERM": terminal_kind})
+                os.write(terminal, b"|")
+                reader.join()
+                os.close(terminal)
+                os.close(primary)
+                self.assertTrue(result.stdout.startswith(b"keystrokes: "))
+                lines = rb"(\r(re)?typing \d+ of \d+)+\r\x1b\[K"
+                self.assertRegex(shown, rb"\A(" + lines + rb")+\|\Z" if is_shown else rb"\A\|\Z")
 
 
 def drawn(text, selection):

@@ -45,6 +45,7 @@ TEST(AddTagTest, AtTheEndAndBeforeFootnotes) {
                              });
     expectEach(AddTag(u"a b"), {{u"‸x", u"‸x\n\n#a b#"}, {u"‸#x", u"‸#x #a b#"}});
     expectEach(AddTag(u"b`c"), {{u"‸`x", u"‸`x\n\n#b`c"}, {u"‸`x #t", u"‸`x #t #b&grave;c"}});
+    expectEach(AddTag(u"C:\\x/a\\"), {{u"‸x", u"‸x\n\n#C:\\\\x/a\\\\#"}});
     expectEach(AddTag(u"a//b"), {{u"x‸", u""}});
 }
 

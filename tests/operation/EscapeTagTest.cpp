@@ -20,6 +20,7 @@ TEST(EscapeTagTest, TheMarkersAreEscapedAndTheRestStays) {
                                     {u"\\#a `#a`‸", u""},
                                 });
     expectEach(EscapeTag(u"a#b"), {{u"‸#a\\#b #a\\#b#", u"‸\\#a\\#b \\#a\\#b\\#"}});
+    expectEach(EscapeTag(u"a\\"), {{u"‸#a\\\\# #A\\\\/b #a\\/b", u"‸\\#a\\\\\\# \\#A\\\\/b #a\\/b"}});
     // no tag begins or ends at what was escaped
     for (const std::u16string_view note : {u"‸#a #a #a", u"‸- #a#b #a/b c#d", u"‸(#a) **#a**\n#a"})
         EXPECT_EQ(afterOperation(EscapeTag(u"a"), afterOperation(EscapeTag(u"a"), note)), u"");

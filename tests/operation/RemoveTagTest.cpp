@@ -38,6 +38,12 @@ TEST(RemoveTagTest, ALowerLevelLeavesTheParent) {
     expectEach(RemoveTag(u"a\\/b/c"), {{u"‸#a\\/b/c", u"‸#a\\/b"}});
 }
 
+TEST(RemoveTagTest, BackslashesThatEscapeNothing) {
+    expectEach(RemoveTag(u"C:\\x"), {{u"‸#C:\\\\x #c:\\\\X/y, #C:x", u"‸, #C:x"}});
+    expectEach(RemoveTag(u"a\\"), {{u"‸#a\\\\# #a\\/b #a\\\\/b #a", u"‸#a\\/b #a"}});
+    expectEach(RemoveTag(u"a\\b/c"), {{u"‸#a\\\\b/c", u"‸#a\\\\b"}});
+}
+
 TEST(RemoveTagTest, LeavesNoSuchTag) {
     static constexpr std::u16string_view pieces[] = {u" #a", u"#a/b c#", u" #a, ",  u"\n",  u" ",
                                                      u"x",   u"- ",      u"(#a/b)", u"#b#", u"\n\n> #a/b",

@@ -104,6 +104,8 @@ TEST(RenameTagTest, TheClosingMarkerWhereTheTextAroundNeedsIt) {
                                             {u"‸x#b c#", u"‸x#a#"},
                                             {u"‸#b c#\U0001F600", u"‸#a#\U0001F600"},
                                         });
+    expectEach(RenameTag(u"C:\\x", u"n\\"), {{u"‸#C:\\\\x #c:\\\\X/y", u"‸#n\\\\# #n\\\\/y"}});
+    expectEach(RenameTag(u"a\\/b", u"n"), {{u"‸#a\\/b/c #a\\\\/b #a/b", u"‸#n/c #a\\\\/b #a/b"}});
     expectEach(RenameTag(u"a", u"b//c"), {{u"‸#a #a/d", u""}});
 }
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Cli {
+
+/// A text to search whatever its case, accents and width. Offsets count UTF-16 code units.
+struct FoldedText {
+    std::u16string text;
+    std::vector<std::int64_t> offsets; ///< for each unit of `text`: of the character that it came from
+
+    /// Where what matches at these offsets of `text` stands in the original: ascending, each once. The
+    /// offsets must ascend and lie in `text`.
+    std::vector<std::int64_t> inOriginal(const std::vector<std::int64_t>& indexes) const;
+};
+
+/// A character may become none, as a combining mark does, or several, as U+FB01 does.
+FoldedText folded(std::u16string_view original);
+
+} // namespace Cli
