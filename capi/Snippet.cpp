@@ -1,4 +1,5 @@
 #include "capi/Arguments.h"
+#include "capi/GiveFrom.h"
 #include "capi/Handles.h"
 
 using namespace CApi;
@@ -7,39 +8,31 @@ namespace {
 
 constexpr std::int64_t maximumTableSize = 1000;
 
-/// The snippet that `make` gives for one text.
-corvane_status giveFrom(const corvane_unit* text, std::int64_t length,
-                        std::u16string (*make)(std::u16string_view text), corvane_string** snippet) {
-    if (!snippet) return CORVANE_ERROR_NULL;
-    if (!isText(text, length)) return CORVANE_ERROR_TEXT;
-    return give(make(view(text, length)), snippet);
-}
-
 } // namespace
 
 corvane_status corvane_snippet_safe_label(const corvane_unit* label, int64_t length,
                                           corvane_string** snippet) {
-    return giveFrom(label, length, CVNAST::safeLabelString, snippet);
+    return giveFrom({label, length}, CVNAST::safeLabelString, snippet);
 }
 
 corvane_status corvane_snippet_escaped_url(const corvane_unit* url, int64_t length,
                                            corvane_string** snippet) {
-    return giveFrom(url, length, CVNAST::percentEscapedURL, snippet);
+    return giveFrom({url, length}, CVNAST::percentEscapedURL, snippet);
 }
 
 corvane_status corvane_snippet_decoded_url(const corvane_unit* url, int64_t length,
                                            corvane_string** snippet) {
-    return giveFrom(url, length, CVNAST::percentDecodedURL, snippet);
+    return giveFrom({url, length}, CVNAST::percentDecodedURL, snippet);
 }
 
 corvane_status corvane_snippet_footnote_reference(const corvane_unit* label, int64_t length,
                                                   corvane_string** snippet) {
-    return giveFrom(label, length, CVNAST::footnoteReferenceWithLabel, snippet);
+    return giveFrom({label, length}, CVNAST::footnoteReferenceWithLabel, snippet);
 }
 
 corvane_status corvane_snippet_code_block(const corvane_unit* code, int64_t length,
                                           corvane_string** snippet) {
-    return giveFrom(code, length, CVNAST::codeBlockWithString, snippet);
+    return giveFrom({code, length}, CVNAST::codeBlockWithString, snippet);
 }
 
 corvane_status corvane_snippet_link(const corvane_unit* label, int64_t label_length, const corvane_unit* url,
@@ -77,10 +70,7 @@ corvane_status corvane_snippet_file(const corvane_unit* label, int64_t label_len
 corvane_status corvane_snippet_reference_definition(const corvane_unit* label, int64_t label_length,
                                                     const corvane_unit* text, int64_t text_length,
                                                     corvane_string** snippet) {
-    if (!snippet) return CORVANE_ERROR_NULL;
-    if (!isText(label, label_length) || !isText(text, text_length)) return CORVANE_ERROR_TEXT;
-    return give(CVNAST::referenceDefinitionWithLabel(view(label, label_length), view(text, text_length)),
-                snippet);
+    return giveFrom({label, label_length}, {text, text_length}, CVNAST::referenceDefinitionWithLabel, snippet);
 }
 
 corvane_status corvane_snippet_table(int64_t rows, int64_t columns, corvane_string** snippet) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "capi/Arguments.h"
+#include "capi/GiveFrom.h"
 #include "capi/Handles.h"
 #include "corvane/analysis/CVNHashtag.h"
 #include "corvane/analysis/CVNTimeLogger.h"
@@ -27,31 +28,6 @@ std::vector<std::u16string> copies(const corvane_text* texts, std::int64_t count
     for (std::int64_t i = 0; i < count; ++i)
         made.emplace_back(view(texts[i].units, texts[i].length));
     return made;
-}
-
-/// A text as functions take it, in one piece.
-struct Text {
-    const corvane_unit* units;
-    std::int64_t length;
-
-    bool isOne() const { return isText(units, length); }
-    std::u16string_view operator*() const { return view(units, length); }
-};
-
-/// What `make` gives for one text.
-template <class Made, class Result>
-corvane_status giveFrom(Text text, Made (*make)(std::u16string_view text), Result** result) {
-    if (!result) return CORVANE_ERROR_NULL;
-    if (!text.isOne()) return CORVANE_ERROR_TEXT;
-    return give(make(*text), result);
-}
-
-corvane_status giveFrom(Text text, Text other,
-                        std::u16string (*make)(std::u16string_view text, std::u16string_view other),
-                        corvane_string** result) {
-    if (!result) return CORVANE_ERROR_NULL;
-    if (!text.isOne() || !other.isOne()) return CORVANE_ERROR_TEXT;
-    return give(make(*text, *other), result);
 }
 
 using List = std::span<const std::u16string>;

@@ -7,11 +7,11 @@ import pty
 import random
 import re
 import subprocess
-import sys
-import tempfile
 import threading
 import unittest
 from pathlib import Path
+
+from command import COMMAND, CommandTest, run
 
 WELCOME = Path(__file__).resolve().parents[2] / "examples" / "welcome.md"
 RULES = ("commonmark", "extended", "simplified")
@@ -265,26 +265,11 @@ DRAWN_KEYS = [
 ]
 
 
-def run(*args, stdin=b"", **options):
-    """Runs the command; the result has bytes in stdout and stderr."""
-    return subprocess.run([COMMAND, *map(str, args)], input=stdin, capture_output=True, timeout=250, **options)
-
-
 def edit_line(offset, length, text):
     return json.dumps({"range": [offset, length], "text": text}) + "\n"
 
 
-class CommandTest(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = Path(folder.name)
-
-    def file(self, name, content):
-        path = self.folder / name
-        path.write_bytes(content if isinstance(content, bytes) else content.encode())
-        return path
-
+class PrintTest(CommandTest):
     def assert_prints(self, expected, *args, stdin=b""):
         result = run(*args, stdin=stdin)
         self.assertEqual((result.stderr, result.returncode), (b"", 0))
@@ -300,7 +285,7 @@ class CommandTest(unittest.TestCase):
             self.assertIn(part, message)
 
 
-class Printing(CommandTest):
+class Printing(PrintTest):
     def test_html_and_tree(self):
         tree = "document\n  paragraph\n    text(a)\n    line_ending(\\n)\n"
         for args, note, expected in [
@@ -341,7 +326,7 @@ def annotation(note, *args):
     return [(*each["range"], each["key"], each["value"]) for each in runs]
 
 
-class Annotating(CommandTest):
+class Annotating(PrintTest):
     def test_a_run_is_a_line(self):
         self.assert_prints(
             '{"range":[0,11],"key":"CVNDirection","value":1}\n'
@@ -399,7 +384,7 @@ class Annotating(CommandTest):
 ESCAPE = re.compile(r"\x1b\[[0-9;]*m")
 
 
-class Showing(CommandTest):
+class Showing(PrintTest):
     def show(self, note, *args):
         result = run("show", *args, stdin=note if isinstance(note, bytes) else note.encode())
         self.assertEqual((result.returncode, result.stderr), (0, b""))
@@ -543,7 +528,7 @@ class Showing(CommandTest):
             self.assertIn("a", self.paint(note))
 
 
-class Editing(CommandTest):
+class Editing(PrintTest):
     def edit(self, note, script, *args):
         return run("edit", self.file("note.md", note), "--script", "-", *args, stdin=script.encode())
 
@@ -598,7 +583,7 @@ class Editing(CommandTest):
                 self.assertEqual(result.stdout.count(b"\n"), 60)
 
 
-class Typing(CommandTest):
+class Typing(PrintTest):
     def type(self, note, *args):
         result = run("type", *args, stdin=note.encode())
         self.assertEqual((result.returncode, result.stderr), (0, b""))
@@ -685,7 +670,7 @@ def undrawn(drawing):
     return re.sub("[‸⟦⟧]", "", drawing), [places[0], places[1] if "⟦" in drawing else 0]
 
 
-class Commanding(CommandTest):
+class Commanding(PrintTest):
     """op and correct."""
 
     def results(self, *args, note=""):
@@ -768,7 +753,7 @@ class Commanding(CommandTest):
         self.assert_refused(2, ["6,0", "of 5 code units"], *correct, "6,0", stdin="a😀b".encode())
 
 
-class Keys(CommandTest):
+class Keys(PrintTest):
     def press(self, keys, *args, note=""):
         """The objects that are printed."""
         script = self.file("script.keys", "\n".join(keys))
@@ -828,7 +813,7 @@ class Keys(CommandTest):
         self.assertEqual((typed["by"], last["selection"]), ("calloutCorrectionIn", [10, 0]))
 
 
-class Refusing(CommandTest):
+class Refusing(PrintTest):
     def test_usage(self):
         for args, part in BAD_USAGE:
             with self.subTest(args=args):
@@ -873,7 +858,7 @@ class Refusing(CommandTest):
         self.assert_refused(1, ["standard input: line 1: "], "edit", note, "--script", "-", stdin=b"x")
 
 
-class Ending(CommandTest):
+class Ending(PrintTest):
     def test_a_closed_pipe_is_no_error(self):
         big = self.file("big.md", "paragraph\n\n" * 20_000)
         for blocked in (False, True):
@@ -896,7 +881,4 @@ class Ending(CommandTest):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 2:
-        sys.exit(__doc__)
-    COMMAND = os.path.abspath(sys.argv.pop(1))
     unittest.main()

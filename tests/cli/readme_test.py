@@ -5,10 +5,11 @@ import os
 import re
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
 from pathlib import Path
+
+from command import COMMAND
 
 PROJECT = Path(__file__).resolve().parents[2]
 
@@ -42,5 +43,4 @@ class Readme(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    COMMAND = os.path.abspath(sys.argv.pop(1))
     unittest.main()

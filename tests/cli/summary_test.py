@@ -6,11 +6,10 @@ import os
 import pty
 import re
 import subprocess
-import sys
-import tempfile
 import time
 import unittest
-from pathlib import Path
+
+from command import COMMAND, CommandTest, run
 
 MARK = b"\xef\xbb\xbf"
 ESCAPE = re.compile(r"\x1b\[[0-9;]*m")
@@ -18,22 +17,7 @@ KEYS = ["file", "title", "subtitle", "tags", "links", "wikiLinks", "codeBlockCou
         "spaceIndentedLineCount", "tabIndentedLineCount"]
 
 
-def run(*args, stdin=b"", **options):
-    """Runs the command; the result has bytes in stdout and stderr."""
-    return subprocess.run([COMMAND, *args], input=stdin, capture_output=True, timeout=100, **options)
-
-
-class CommandTest(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = Path(folder.name)
-
-    def file(self, name, content):
-        path = self.folder / name
-        path.write_bytes(content if isinstance(content, bytes) else content.encode())
-        return path
-
+class OutputTest(CommandTest):
     def output(self, *args, stdin=b"", **options):
         """What is printed when nothing goes wrong."""
         result = run(*args, stdin=stdin if isinstance(stdin, bytes) else stdin.encode(), **options)
@@ -51,7 +35,7 @@ class CommandTest(unittest.TestCase):
         return shown
 
 
-class Summary(CommandTest):
+class Summary(OutputTest):
     def summary(self, note, *args):
         return json.loads(self.output("summary", *args, stdin=note))
 
@@ -104,7 +88,7 @@ class Summary(CommandTest):
         self.assertEqual(json.loads(line)["title"], "b\x1b[0m \x9b c\x7f")
 
 
-class Stats(CommandTest):
+class Stats(OutputTest):
     def test_counts(self):
         for note, counts in [
             (b"", [0, 0, 0]),
@@ -120,7 +104,7 @@ class Stats(CommandTest):
                                  list(zip(["file", "wordsCount", "paragraphCount", "readTime"], ["-", *counts])))
 
 
-class Files(CommandTest):
+class Files(OutputTest):
     """What summary and stats have in common."""
 
     def each(self, *files, stdin=b""):
@@ -170,7 +154,7 @@ class Files(CommandTest):
             self.assertEqual((names, code, errors), (["a\ufffd.md"], 0, ""))
 
 
-class Fuzzy(CommandTest):
+class Fuzzy(OutputTest):
     def hits(self, pattern, lines, *args):
         """(number, score, indexes, text) of each line that matches."""
         printed = self.output("fuzzy", "--json", *args, "--", pattern, stdin=lines)
@@ -296,7 +280,7 @@ class Fuzzy(CommandTest):
             self.assertLess(time.monotonic() - started, 20)
 
 
-class Helping(CommandTest):
+class Helping(OutputTest):
     def test_examples(self):
         """The lines that the help shows are printed like that."""
         helps = {name: self.output(name, "--help") for name in ("summary", "stats", "fuzzy")}
@@ -308,7 +292,7 @@ class Helping(CommandTest):
         self.assertIn(self.output("fuzzy", "rea", stdin="readme\n").strip().replace("\t", "<tab>"), helps["fuzzy"])
 
 
-class Ending(CommandTest):
+class Ending(OutputTest):
     def test_a_closed_pipe_is_no_error(self):
         big = self.file("big.md", "line of a note #tag\n" * 20_000)
         many = [self.file("a.md", "a")] * 3_000
@@ -333,7 +317,4 @@ class Ending(CommandTest):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 2:
-        sys.exit(__doc__)
-    COMMAND = os.path.abspath(sys.argv.pop(1))
     unittest.main()

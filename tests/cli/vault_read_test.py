@@ -6,10 +6,11 @@ import os
 import pty
 import re
 import subprocess
-import sys
 import tempfile
 import unittest
 from pathlib import Path
+
+from command import COMMAND
 
 PEN = re.compile(r"\x1b\[[0-9;]*m")
 
@@ -281,5 +282,4 @@ class DisplayTest(FolderTest):
 
 
 if __name__ == "__main__":
-    COMMAND = os.path.abspath(sys.argv.pop(1))
     unittest.main()

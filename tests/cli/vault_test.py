@@ -12,12 +12,13 @@ import shlex
 import shutil
 import signal
 import subprocess
-import sys
 import tempfile
 import threading
 import time
 import unittest
 from pathlib import Path
+
+from command import COMMAND
 
 # Makes one call of the command fail or go along with something: the call SHIM_CALL, for the SHIM_NTH time, or from
 # then on with SHIM_ALWAYS, fails with SHIM_ERRNO, sends itself SHIM_SIGNAL, or runs SHIM_RUN in a shell first.
@@ -613,7 +614,7 @@ class Skipping(VaultTest):
     def test_two_runs_and_a_save_at_the_last_moment(self):
         """The second run begins while the first puts the note in place, and may not do so too."""
         self.file("n.md")
-        second = shlex.quote(os.path.abspath(COMMAND)) + " vault . rename-tag a c 2> ../second; true"
+        second = shlex.quote(COMMAND) + " vault . rename-tag a c 2> ../second; true"
         command = f"cd '{self.folder}' && {self.SAVE.format('saved')}; {second}"
         result = run(self.folder, *RENAME, env=self.shim("renameat2", run=command))
         self.assertEqual((self.outside / "second").read_text(),
@@ -828,5 +829,4 @@ class Faults(VaultTest):
 
 
 if __name__ == "__main__":
-    COMMAND = sys.argv.pop(1)
     unittest.main()
