@@ -70,7 +70,8 @@ corvane_status corvane_snippet_file(const corvane_unit* label, int64_t label_len
 corvane_status corvane_snippet_reference_definition(const corvane_unit* label, int64_t label_length,
                                                     const corvane_unit* text, int64_t text_length,
                                                     corvane_string** snippet) {
-    return giveFrom({label, label_length}, {text, text_length}, CVNAST::referenceDefinitionWithLabel, snippet);
+    return giveFrom({label, label_length}, {text, text_length}, CVNAST::referenceDefinitionWithLabel,
+                    snippet);
 }
 
 corvane_status corvane_snippet_table(int64_t rows, int64_t columns, corvane_string** snippet) {

@@ -3,20 +3,13 @@
 #include <utility>
 
 #include "corvane/correction/EditEdges.h"
+#include "corvane/operation/InlineRuns.h"
 #include "corvane/operation/OperationInsertNewline.h"
 #include "corvane/scan/Util.h"
 
 namespace CVN::Correction {
 
 using namespace Operation;
-
-namespace {
-
-std::int64_t sizeOf(std::u16string_view text) {
-    return static_cast<std::int64_t>(text.size());
-}
-
-} // namespace
 
 std::vector<Result> PasteLineEndingCorrection::run(const Ondo::Tree& tree, std::int64_t offset,
                                                    std::int64_t length, std::u16string_view replacement,

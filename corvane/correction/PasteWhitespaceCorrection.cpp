@@ -7,6 +7,7 @@
 #include "corvane/correction/PastedItemMarkers.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/scan/Go.h"
+#include "corvane/scan/Util.h"
 
 namespace CVN::Correction {
 
@@ -44,7 +45,7 @@ bool isBlank(std::u16string_view text) {
 
 bool isSpacedBefore(const Ondo::Tree& tree, std::int64_t offset, const Node* leaf) {
     const char32_t before = characterBefore(tree, offset);
-    if (isLineStart(tree, offset) || isSpace(before) || isOpener(leaf)) return true;
+    if (isSpace(before) || isOpener(leaf)) return true;
     if (!Go::unicodePunctuation(before) || Go::unicodeClosePunctuation(before)) return false;
     return !closingMarks(before) && !isCloser(leaf);
 }
@@ -60,10 +61,6 @@ bool standTogether(char32_t left, char32_t right) {
     if (Go::unicodeDecimalNumber(left) && Go::unicodeDecimalNumber(right)) return true;
     if (Go::unicodeCurrencySymbol(left) || Go::unicodeCurrencySymbol(right)) return true;
     return left == U'«' || right == U'»' || (Go::logogram(left) && Go::logogram(right));
-}
-
-std::int64_t spacesAtStart(std::u16string_view text) {
-    return static_cast<std::int64_t>(std::min(text.find_first_not_of(u' '), text.size()));
 }
 
 std::int64_t spacesAtEnd(std::u16string_view text) {
@@ -104,7 +101,7 @@ std::vector<Result> PasteWhitespaceCorrection::run(const Ondo::Tree& tree, std::
     const bool isVerbatim = isInVerbatim(right) || (!startsLine && isInVerbatim(left));
 
     Edge before{characterBefore(tree, offset), firstCharacter(replacement), false, false, isVerbatim, false};
-    before.isSpaced = isSpacedBefore(tree, offset, left);
+    before.isSpaced = startsLine || isSpacedBefore(tree, offset, left);
     before.mayDrop = before.isSpaced && !startsLine;
     before.isExempt = standTogether(before.beside, before.own);
     Edge behind{characterAt(tree, end), lastCharacter(replacement), false, false, isVerbatim, false};
@@ -112,7 +109,7 @@ std::vector<Result> PasteWhitespaceCorrection::run(const Ondo::Tree& tree, std::
     behind.mayDrop = behind.isSpaced && !(startsLine && isBlank(replacement));
     behind.isExempt = standTogether(behind.own, behind.beside);
 
-    const Change change{changeAt(before, spacesAtStart(replacement)),
+    const Change change{changeAt(before, Ondo::Util::countLeading(replacement, Go::character(u' '))),
                         changeAt(behind, spacesAtEnd(replacement))};
     std::u16string text = changed(replacement, change);
     if (text == replacement) return {};

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "corvane/inline/FoldMarker.h"
 #include "corvane/inline/Folding.h"

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "corvane/inline/FoldMarker.h"
-#include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TableRows.h"
 #include "corvane/operation/TrialParse.h"
 
 namespace CVN::Operation {
@@ -14,9 +14,6 @@ using Ondo::Node;
 using Ondo::Inline::FoldMarkerNode;
 
 namespace {
-
-/// A row can't be indented this far where there is indented code.
-constexpr std::int64_t codeIndentation = 4;
 
 const Node* tableOf(const Node::Iterator& leaf) {
     return selfOrAncestor(leaf.node, Ondo::ONDO_TABLE_NODE);
@@ -55,10 +52,7 @@ LineStretch passedAt(const Node::Iterator& leaf, const LineStretch& lines) {
 /// Whether a line could become a row of a table that a leaf above it lies in. Tables stand at the left
 /// margin.
 bool joinsTable(const Ondo::Tree& tree, const Node::Iterator& above, std::int64_t line) {
-    std::int64_t column = 0;
-    for (; unitAt(tree, line) == u' ' || unitAt(tree, line) == u'\t'; ++line)
-        column = columnBehind(unitAt(tree, line), column);
-    return unitAt(tree, line) == u'|' && (column < codeIndentation || isSimplified(tree)) && tableOf(above);
+    return beginsAsRow(tree, line) && tableOf(above);
 }
 
 constexpr std::u16string_view openingFence = u"---";

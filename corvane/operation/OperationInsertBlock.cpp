@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
+#include "corvane/operation/TableRows.h"
 
 namespace CVN::Operation {
 
@@ -15,8 +15,6 @@ namespace {
 constexpr std::u16string_view thematicBreak = u"- - -";
 constexpr std::u16string_view emptyTable = u"|   |   |\n|---|---|\n|   |   |";
 constexpr std::int64_t firstCell = 2;
-/// A row can't be indented this far where there is indented code.
-constexpr std::int64_t codeIndentation = 4;
 
 bool isLineEnd(const Ondo::Tree& tree, std::int64_t offset) {
     const char16_t next = unitAt(tree, offset);
@@ -88,10 +86,7 @@ bool isBeforeRow(const Ondo::Tree& tree, std::int64_t offset) {
     std::int64_t at = offset;
     if (unitAt(tree, at) == u'\r') ++at;
     if (unitAt(tree, at) == u'\n') ++at;
-    std::int64_t column = 0;
-    for (; isBlankUnit(unitAt(tree, at)); ++at)
-        column = columnBehind(unitAt(tree, at), column);
-    return unitAt(tree, at) == u'|' && (column < codeIndentation || isSimplified(tree));
+    return beginsAsRow(tree, at);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "corvane/inline/Folding.h"
+#include "corvane/operation/InlineRuns.h"
 #include "corvane/operation/LineWalk.h"
 
 namespace CVN::Operation {
@@ -16,10 +17,6 @@ using Ondo::Tree;
 
 constexpr std::u16string_view foldComment = Ondo::Inline::Folding::comment;
 constexpr std::u16string_view previewComment = u"<!-- {\"preview\":\"true\"} -->";
-
-std::int64_t sizeOf(std::u16string_view text) {
-    return static_cast<std::int64_t>(text.size());
-}
 
 /// Text of these types is quoted.
 constexpr std::uint16_t quotingTypes[] = {

@@ -7,6 +7,9 @@
 #include <utility>
 
 #include "corvane/block/List.h"
+#include "corvane/operation/IndentInfo.h"
+#include "corvane/operation/InlineRuns.h"
+#include "corvane/operation/LinePrefix.h"
 #include "corvane/operation/LineWalk.h"
 #include "corvane/scan/Util.h"
 
@@ -18,9 +21,6 @@ using Ondo::Block::ListItemNode;
 namespace {
 
 constexpr std::int64_t longestNumber = 9;
-constexpr std::int64_t tabStop = 4;
-/// Text that stands this many columns behind its marker is indented code.
-constexpr std::int64_t codeIndentation = 4;
 
 bool isBlankUnit(char16_t c) {
     return c == u' ' || c == u'\t';
@@ -34,20 +34,6 @@ bool isLineEndingUnit(char16_t c) {
 /// No block starts with such a unit.
 bool isLetter(char16_t c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c >= 0x80;
-}
-
-std::int64_t columnBehind(std::int64_t column, char16_t c) {
-    return c == u'\t' ? column + tabStop - column % tabStop : column + 1;
-}
-
-std::int64_t columnBehind(std::int64_t column, std::u16string_view text) {
-    for (const char16_t c : text)
-        column = columnBehind(column, c);
-    return column;
-}
-
-std::int64_t sizeOf(std::u16string_view text) {
-    return static_cast<std::int64_t>(text.size());
 }
 
 std::u16string spaces(std::int64_t count) {
@@ -129,8 +115,8 @@ private:
     /// Reads the line up to an offset for its columns.
     void readTo(std::int64_t offset) {
         const std::u16string_view text = tree_.markdownIn({read_, offset - read_});
-        column_ = columnBehind(column_, text);
-        newColumn_ = columnBehind(newColumn_, text);
+        column_ += widthFrom(column_, text);
+        newColumn_ += widthFrom(newColumn_, text);
         read_ = offset;
     }
 
@@ -156,8 +142,8 @@ private:
     std::optional<std::int64_t> shiftOfLazyText(const Node::Iterator& space,
                                                 std::u16string_view blanks) const {
         if (isSimplified_ || isLineEndingUnit(unitAt(tree_, space.end()))) return std::nullopt;
-        const std::int64_t column = columnBehind(column_, blanks) - base_;
-        const std::int64_t newColumn = columnBehind(newColumn_, blanks) - newBase_;
+        const std::int64_t column = column_ + widthFrom(column_, blanks) - base_;
+        const std::int64_t newColumn = newColumn_ + widthFrom(newColumn_, blanks) - newBase_;
         std::int64_t outer = 0;
         std::int64_t shift = 0;
         std::optional<std::int64_t> limit;
@@ -183,12 +169,12 @@ private:
     void visitOpeningSpace(const Node::Iterator& space) {
         readTo(space.offset);
         const std::u16string blanks(textOf(tree_, space));
-        const std::int64_t end = columnBehind(newColumn_, blanks);
+        const std::int64_t end = newColumn_ + widthFrom(newColumn_, blanks);
         const auto lazyShift = shiftOfLazyText(space, blanks);
         const std::int64_t shift = lazyShift ? *lazyShift : shiftOf(blanks) - intrusion(space, end);
         const std::int64_t newEnd = end + (shift < 0 ? shortened(space, blanks, -shift) : shift);
         if (shift > 0) change(space.offset + endOfTabs(blanks), 0, spaces(shift));
-        column_ = columnBehind(column_, blanks);
+        column_ += widthFrom(column_, blanks);
         newColumn_ = newEnd;
         read_ = space.end();
     }
@@ -211,9 +197,8 @@ private:
             if (length > 0) change(space.offset + tabs, length, {});
             return -length;
         }
-        const std::int64_t end = columnBehind(newColumn_, blanks);
-        const std::int64_t left =
-            std::max<std::int64_t>(0, columnBehind(column_, blanks) - columns - column_);
+        const std::int64_t end = newColumn_ + widthFrom(newColumn_, blanks);
+        const std::int64_t left = std::max<std::int64_t>(0, widthFrom(column_, blanks) - columns);
         change(space.offset, sizeOf(blanks), spaces(left));
         return newColumn_ + left - end;
     }
@@ -263,7 +248,7 @@ private:
         std::int64_t text = markerEnd;
         std::int64_t at = behind;
         for (; isBlankUnit(unitAt(tree_, at)); ++at)
-            text = columnBehind(text, unitAt(tree_, at));
+            text = columnBehind(unitAt(tree_, at), text);
         const char16_t next = unitAt(tree_, at);
         const bool isEmpty = isLineEndingUnit(next);
         const bool isCode = text - (markerEnd + 1) >= codeIndentation;

@@ -1,6 +1,7 @@
 #include "corvane/operation/OperationTagBase.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "corvane/inline/Hashtag.h"
 #include "corvane/inline/Segments.h"

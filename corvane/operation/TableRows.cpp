@@ -3,8 +3,11 @@
 #include <string_view>
 
 #include "corvane/block/Table.h"
+#include "corvane/operation/IndentInfo.h"
+#include "corvane/operation/LinePrefix.h"
 #include "corvane/scan/Go.h"
 #include "corvane/scan/Lines.h"
+#include "corvane/scan/Util.h"
 
 namespace CVN::Operation {
 
@@ -20,16 +23,12 @@ bool isInRow(const Node* node) {
 
 /// What a line holds between its blanks.
 std::u16string_view contentOf(std::u16string_view line) {
-    constexpr std::u16string_view blanks = u" \t\r\n";
-    const auto start = line.find_first_not_of(blanks);
-    if (start == std::u16string_view::npos) return {};
-    return line.substr(start, line.find_last_not_of(blanks) + 1 - start);
+    return Ondo::Util::trim(line, Ondo::Go::characterAnyOf(u" \t\r\n"));
 }
 
 /// Whether the blanks before the content of a line make indented code of it, which the simplified dialect
 /// lacks.
 bool isCode(const Ondo::Tree& tree, std::u16string_view line) {
-    constexpr std::int64_t codeIndentation = 4;
     const auto start = static_cast<std::int64_t>(line.find_first_not_of(u" \t"));
     return !isSimplified(tree) &&
            Ondo::Lines::Line::indentationAtOffsetRelativeToStart(start, 0, line) >= codeIndentation;
@@ -104,6 +103,13 @@ bool readsAsDelimiterRow(std::u16string_view row) {
     while (!go.hasFailed() && !go.isAtEnd())
         passDelimiter(go);
     return !go.hasFailed();
+}
+
+bool beginsAsRow(const Ondo::Tree& tree, std::int64_t line) {
+    std::int64_t column = 0;
+    for (; unitAt(tree, line) == u' ' || unitAt(tree, line) == u'\t'; ++line)
+        column = columnBehind(unitAt(tree, line), column);
+    return unitAt(tree, line) == u'|' && (column < codeIndentation || isSimplified(tree));
 }
 
 bool isRowOf(const Ondo::Tree& tree, const Node::Iterator& line, std::int64_t columns) {

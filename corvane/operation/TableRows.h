@@ -45,6 +45,10 @@ std::u16string lineEndingOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& 
 /// Whether a row, given by its text, would be the delimiter row below another one.
 bool readsAsDelimiterRow(std::u16string_view row);
 
+/// Whether a line that starts at an offset begins as a row does: with a pipe that does not stand so far in
+/// that it would be indented code.
+bool beginsAsRow(const Ondo::Tree& tree, std::int64_t line);
+
 /// Whether a line outside containers, given by its line node, would be a row below the delimiter row of so
 /// many columns.
 bool isRowOf(const Ondo::Tree& tree, const Ondo::Node::Iterator& line, std::int64_t columns);

@@ -7,7 +7,6 @@
 #include "corvane/inline/BackslashEscape.h"
 #include "corvane/inline/Entity.h"
 #include "corvane/inline/Hashtag.h"
-#include "corvane/inline/Segments.h"
 #include "corvane/scan/Lines.h"
 #include "corvane/tree/InlineParser.h"
 
