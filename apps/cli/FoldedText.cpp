@@ -41,4 +41,11 @@ FoldedText folded(std::u16string_view original) {
     return result;
 }
 
+CVN::FuzzyMatch foldedSearch(std::u16string_view foldedPattern, std::u16string_view text) {
+    const FoldedText line = folded(text);
+    CVN::FuzzyMatch match = CVN::fuzzySearch(foldedPattern, line.text);
+    match.indexes = line.inOriginal(match.indexes);
+    return match;
+}
+
 } // namespace Cli

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "corvane/analysis/FuzzySearch.h"
+
 namespace Cli {
 
 /// A text to search whatever its case, accents and width. Offsets count UTF-16 code units.
@@ -19,5 +21,9 @@ struct FoldedText {
 
 /// A character may become none, as a combining mark does, or several, as U+FB01 does.
 FoldedText folded(std::u16string_view original);
+
+/// Looks for a folded pattern in a text whatever its case, accents and width; the indexes are offsets of the
+/// text as it stands.
+CVN::FuzzyMatch foldedSearch(std::u16string_view foldedPattern, std::u16string_view text);
 
 } // namespace Cli

@@ -29,13 +29,6 @@ CVN::FuzzyMatch plainSearch(std::u16string_view pattern, std::u16string_view tex
     return CVN::fuzzySearch(pattern, text);
 }
 
-CVN::FuzzyMatch foldedSearch(std::u16string_view foldedPattern, std::u16string_view text) {
-    const FoldedText line = folded(text);
-    CVN::FuzzyMatch match = CVN::fuzzySearch(foldedPattern, line.text);
-    match.indexes = line.inOriginal(match.indexes);
-    return match;
-}
-
 /// Takes a line off the start of a text that is not empty; its ending, which is gone then, is LF, CRLF or CR.
 std::u16string_view takeLine(std::u16string_view& text) {
     const std::size_t length = std::min(text.find_first_of(u"\r\n"), text.size());
@@ -58,13 +51,6 @@ std::vector<Hit> hitsIn(std::u16string_view text, const std::u16string& pattern,
     std::stable_sort(hits.begin(), hits.end(),
                      [](const Hit& a, const Hit& b) { return a.match.score > b.match.score; });
     return hits;
-}
-
-std::string listOf(const std::vector<std::int64_t>& numbers) {
-    std::string list;
-    for (const std::int64_t number : numbers)
-        list += (list.empty() ? "" : ",") + std::to_string(number);
-    return list;
 }
 
 std::string jsonLine(const Hit& hit) {

@@ -95,12 +95,9 @@ std::u16string readText(const std::string& file) {
 }
 
 std::u16string readPlainText(const std::string& file) {
-    return withoutMark(readText(file));
-}
-
-std::u16string withoutMark(std::u16string text) {
     constexpr char16_t mark = 0xFEFF;
-    if (!text.empty() && text.front() == mark) text.erase(0, 1);
+    std::u16string text = readText(file);
+    if (text.starts_with(mark)) text.erase(0, 1);
     return text;
 }
 

@@ -17,9 +17,6 @@ std::u16string readText(const std::string& file);
 /// The same without a byte order mark at the start, which would hide front matter and stand in titles.
 std::u16string readPlainText(const std::string& file);
 
-/// A text without the byte order mark at its start, if it has one.
-std::u16string withoutMark(std::u16string text);
-
 /// The offset in bytes of the first sequence that is not UTF-8; -1 when there is none. Overlong forms,
 /// surrogates and what lies beyond U+10FFFF are none.
 std::int64_t invalidUtf8(std::string_view bytes);

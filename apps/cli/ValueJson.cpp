@@ -84,4 +84,11 @@ std::string jsonText(std::u16string_view text) {
     return withoutControls(Json(Ondo::Util::utf8(text)).dump());
 }
 
+std::string listOf(const std::vector<std::int64_t>& numbers) {
+    std::string list;
+    for (const std::int64_t number : numbers)
+        list += (list.empty() ? "" : ",") + std::to_string(number);
+    return list;
+}
+
 } // namespace Cli

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "corvane/client/CVNValue.h"
 
@@ -12,5 +14,7 @@ namespace Cli {
 std::string jsonText(const CVNValue& value);
 /// A string in the same form.
 std::string jsonText(std::u16string_view text);
+/// Numbers with commas between them.
+std::string listOf(const std::vector<std::int64_t>& numbers);
 
 } // namespace Cli

@@ -24,17 +24,10 @@ struct Found {
     std::vector<std::int64_t> indexes; ///< in the title, or in the name without folders and extension
 };
 
-CVN::FuzzyMatch match(std::u16string_view pattern, std::u16string_view original) {
-    const FoldedText text = folded(original);
-    CVN::FuzzyMatch match = CVN::fuzzySearch(pattern, text.text);
-    match.indexes = text.inOriginal(match.indexes);
-    return match;
-}
-
 std::optional<Found> find(std::u16string_view pattern, const VaultFile& file, const std::u16string& title) {
     const std::u16string name = titleOfFile(file);
-    CVN::FuzzyMatch inTitle = match(pattern, title);
-    CVN::FuzzyMatch inName = match(pattern, name);
+    CVN::FuzzyMatch inTitle = foldedSearch(pattern, title);
+    CVN::FuzzyMatch inName = foldedSearch(pattern, name);
     const bool isInName = inName.matched && (!inTitle.matched || inName.score > inTitle.score);
     CVN::FuzzyMatch& best = isInName ? inName : inTitle;
     if (!best.matched) return std::nullopt;
@@ -50,12 +43,9 @@ void rank(std::vector<Found>& all) {
 }
 
 std::string jsonLine(const Found& found) {
-    std::string indexes;
-    for (const std::int64_t index : found.indexes)
-        indexes += (indexes.empty() ? "" : ",") + std::to_string(index);
     return R"({"file":)" + jsonText(Ondo::Util::utf16(found.file)) + R"(,"title":)" + jsonText(found.title) +
            R"(,"in":")" + (found.isInName ? "name" : "title") + R"(","score":)" +
-           std::to_string(found.score) + R"(,"indexes":[)" + indexes + "]}\n";
+           std::to_string(found.score) + R"(,"indexes":[)" + listOf(found.indexes) + "]}\n";
 }
 
 /// The file with its name, from the last folder on, in colours.

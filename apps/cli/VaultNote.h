@@ -52,11 +52,12 @@ void requireWritable(const VaultFile& file, const VaultNote& note);
 /// Puts another text in the note's place, with its byte order mark, owner, permissions and extended
 /// attributes.
 ///
-/// The text is written to a hidden file beside the note and flushed to the disk, which is then renamed over
-/// the note: at every moment the note is the old one or the new one. Refused when the note is no longer what
-/// was read, down to its bytes, and when anything fails; then the note is as it was, and the hidden file
-/// gone. What other programs save at that very moment is kept too, if need be in a hidden file that the
-/// reason names.
+/// The text is written to a hidden file beside the note and flushed to the disk, which then changes places
+/// with the note, or is renamed over it where files can't do so: at every moment the note is the old one or
+/// the new one. Refused when the note is no longer what was read, down to its bytes, and when anything fails;
+/// then the note is as it was, and the hidden file gone, unless the reason says that it was changed: then
+/// only the removal of the old text or the flush of the folder failed. What other programs save at that very
+/// moment is kept too, if need be in a hidden file that the reason names.
 void replaceVaultNote(const VaultFile& file, const VaultNote& asRead, std::u16string_view text);
 
 /// The bytes of a text in a file. Throws Unusable for a text that UTF-8 can't hold.

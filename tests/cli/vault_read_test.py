@@ -129,14 +129,15 @@ class SummaryTest(FolderTest):
         self.assertLess(megabytes[1], megabytes[0] + 10)
 
     def test_who_reads_may_stop(self):
-        folder = self.folder({f"{i}.md": "# x\n" * 200 for i in range(500)})
+        folder = self.folder({f"{i}.md": f"# x\n#t{i}\n" * 200 for i in range(500)})
         for action in (["summary"], ["links"], ["tags"], ["find", "x", "--json"]):
             with self.subTest(action=action):
                 reader, writer = os.pipe()
                 os.close(reader)
-                with subprocess.Popen([COMMAND, "vault", folder, *action], stdout=writer, stderr=subprocess.PIPE) as process:
+                with subprocess.Popen([COMMAND, "vault", folder, *action], stdout=writer, stderr=subprocess.PIPE,
+                                      restore_signals=False) as process:
                     os.close(writer)
-                    self.assertEqual(process.communicate(timeout=100)[1], b"")
+                    self.assertEqual((process.communicate(timeout=100)[1], process.returncode), (b"", 1))
 
 
 class TagsTest(FolderTest):

